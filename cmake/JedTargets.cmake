@@ -3,6 +3,10 @@
 
 include(GenerateExportHeader)
 
+# What "check --all" builds optimised: the slow tests and the benchmarks.
+add_custom_target(jed_slow_tests)
+add_custom_target(jed_benchmarks)
+
 # jed_add_platform_library(<name> SOURCES <file>... [USES <target>...])
 # One of the libraries that stand in for the installation's. Headers are included with their folder
 # (<values/node.h>); <name>/<name>_export.h is generated.
@@ -75,19 +79,22 @@ function(jed_add_test name)
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
                          ENVIRONMENT "${JED_TEST_ENVIRONMENT}")
+    if("slow" IN_LIST ARG_LABELS)
+        add_dependencies(jed_slow_tests ${name})
+    endif()
 endfunction()
 
 # jed_add_script_test(<name> COMMAND <program> <argument>... [LABELS <label>...])
-# A check that is a script of its own (layers, exported interface, generator).
+# A check that is a script of its own (layers, exported interface, generator); always labelled "script".
 function(jed_add_script_test name)
     cmake_parse_arguments(ARG "" "" "COMMAND;LABELS" ${ARGN})
     add_test(NAME ${name} COMMAND ${ARG_COMMAND})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "${ARG_LABELS}"
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "script;${ARG_LABELS}"
                          ENVIRONMENT "${JED_TEST_ENVIRONMENT}")
 endfunction()
 
 # jed_add_benchmark(<name> [SOURCES <file>...] USES <target>...)
-# A Google Benchmark program in <name>.cpp; ctest starts it with the shortest possible rounds as a smoke test.
+# A Google Benchmark program in <name>.cpp. dev/measure runs them all and prints the ratios that matter.
 function(jed_add_benchmark name)
     cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
@@ -95,4 +102,5 @@ function(jed_add_benchmark name)
         AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/benchmarks")
     target_compile_definitions(${name} PRIVATE JED_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE ${ARG_USES} benchmark::benchmark)
+    add_dependencies(jed_benchmarks ${name})
 endfunction()
