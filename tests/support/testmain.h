@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QApplication>
+#include <QtTest>
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#endif
+
+namespace JedTest {
+
+/// Runs a test class under a QApplication. What Qt's platform plug-ins and font libraries allocate once per process and
+/// never free is kept out of the leak report; everything that the test itself allocates stays in it.
+template <typename TestClass>
+int run(int argc, char** argv)
+{
+#if defined(__SANITIZE_ADDRESS__)
+    __lsan_disable();
+#endif
+    QApplication application(argc, argv);
+#if defined(__SANITIZE_ADDRESS__)
+    __lsan_enable();
+#endif
+    TestClass test;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&test, argc, argv);
+}
+
+} // namespace JedTest
+
+/// Replaces QTEST_MAIN for tests that need widgets.
+#define JED_TEST_MAIN(TestClass)                                                                                  \
+    int main(int argc, char** argv)                                                                               \
+    {                                                                                                             \
+        return JedTest::run<TestClass>(argc, argv);                                                               \
+    }
