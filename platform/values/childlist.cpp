@@ -1,0 +1,76 @@
+#include <values/childlist.h>
+
+#include <values/node.h>
+
+namespace {
+
+/// Below this number a walk is as fast as the index, and saves making it.
+const int INDEX_FROM = 8;
+
+} // namespace
+
+void ChildList::append(ValueBase* child)
+{
+    child->m_previous = m_last;
+    child->m_next = nullptr;
+    (m_last == nullptr ? m_first : m_last->m_next) = child;
+    m_last = child;
+    ++m_count;
+    if (m_isIndexed)
+        addToIndex(child);
+}
+
+void ChildList::remove(ValueBase* child)
+{
+    (child->m_previous == nullptr ? m_first : child->m_previous->m_next) = child->m_next;
+    (child->m_next == nullptr ? m_last : child->m_next->m_previous) = child->m_previous;
+    --m_count;
+    if (m_hasTwins)
+        forgetIds();
+    else if (m_isIndexed)
+        m_index.remove(child->GetId());
+    child->m_previous = nullptr;
+    child->m_next = nullptr;
+}
+
+ValueBase* ChildList::find(const QString& id) const
+{
+    if (id.isEmpty())
+        return nullptr;
+    ValueBase* child = m_first;
+    if (m_count >= INDEX_FROM) {
+        if (!m_isIndexed)
+            buildIndex();
+        child = m_index.value(id);
+        if (child == nullptr || !child->isGoing())
+            return child;
+    }
+    while (child != nullptr && (child->isGoing() || child->GetId() != id))
+        child = child->m_next;
+    return child;
+}
+
+void ChildList::forgetIds()
+{
+    m_index.clear();
+    m_isIndexed = false;
+    m_hasTwins = false;
+}
+
+void ChildList::buildIndex() const
+{
+    m_index.reserve(m_count);
+    for (ValueBase* child = m_first; child != nullptr; child = child->m_next)
+        addToIndex(child);
+    m_isIndexed = true;
+}
+
+void ChildList::addToIndex(ValueBase* child) const
+{
+    const int size = m_index.size();
+    ValueBase*& first = m_index[child->GetId()];
+    if (m_index.size() == size)
+        m_hasTwins = true;
+    else
+        first = child;
+}
