@@ -1,0 +1,7 @@
+#include "isubsetting.h"
+
+namespace JEDVEPLUGIN {
+
+ISubSetting::~ISubSetting() = default;
+
+} // namespace JEDVEPLUGIN
