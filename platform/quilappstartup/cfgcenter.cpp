@@ -1,0 +1,121 @@
+#include <quilappstartup/cfgcenter.h>
+
+#include <quilappstartup/inifile_p.h>
+
+#include <zubase/errorhandler.h>
+#include <zubase/trace.h>
+
+#include <QDir>
+
+namespace {
+
+const char* const SOURCE_FILE = "cfgcenter";
+
+const QLatin1String PATH_KEY_ENDINGS[] = {QLatin1String("Dir"), QLatin1String("Folder")};
+
+bool isPathKey(const QString& key)
+{
+    for (const QLatin1String& ending : PATH_KEY_ENDINGS) {
+        if (key.endsWith(ending))
+            return true;
+    }
+    return false;
+}
+
+bool isWindowsPath(const QString& path)
+{
+    return path.startsWith(QLatin1String("\\\\")) ||
+           (path.size() > 2 && path.at(0).isLetter() && path.at(1) == QLatin1Char(':') &&
+            (path.at(2) == QLatin1Char('\\') || path.at(2) == QLatin1Char('/')));
+}
+
+QHash<QString, QString> withAbsolutePaths(const IniFile::Entries& entries, const QDir& folder)
+{
+    QHash<QString, QString> result = entries;
+    for (auto entry = result.begin(); entry != result.end(); ++entry) {
+        if (isPathKey(entry.key()) && !entry.value().isEmpty() && !isWindowsPath(entry.value()))
+            entry.value() = QDir::cleanPath(folder.absoluteFilePath(entry.value()));
+    }
+    return result;
+}
+
+} // namespace
+
+CfgCenter* CfgCenter::Instance()
+{
+    static CfgCenter* const s_instance = new CfgCenter;
+    return s_instance;
+}
+
+CfgCenter::CfgCenter() = default;
+
+CfgCenter::~CfgCenter() = default;
+
+void CfgCenter::SetInstallation(const QString& folder)
+{
+    m_folder = folder;
+    forgetWhatWasRead();
+}
+
+void CfgCenter::SetDefaultInstallation(const QString& folder)
+{
+    m_defaultFolder = folder;
+    forgetWhatWasRead();
+}
+
+QString CfgCenter::GetInstallation() const
+{
+    for (const QString& folder : {m_folder, qEnvironmentVariable(ENVIRONMENT_VARIABLE), m_defaultFolder}) {
+        if (!folder.isEmpty())
+            return QDir(folder).absolutePath();
+    }
+    return QString();
+}
+
+QStringList CfgCenter::GetProblems()
+{
+    return iniFile().problems();
+}
+
+Cfg* CfgCenter::GetAdminCfg(int)
+{
+    return cfgOfSection(QLatin1String(ADMIN_SECTION));
+}
+
+Cfg* CfgCenter::CreateCfg(const QString& name, int, const QString& variant)
+{
+    const QString section = variant.isEmpty() ? name : QString("%1.%2").arg(name, variant);
+    return iniFile().hasSection(section) ? cfgOfSection(section) : nullptr;
+}
+
+const IniFile& CfgCenter::iniFile()
+{
+    if (m_iniFile != nullptr)
+        return *m_iniFile;
+    m_readFolder = GetInstallation();
+    m_iniFile = m_readFolder.isEmpty()
+                    ? std::make_unique<IniFile>()
+                    : std::make_unique<IniFile>(QDir(m_readFolder).filePath(QLatin1String(INI_FILE_NAME)));
+    if ((ErrorHandler::Instance()->GetTraceMask() & ErrorHandler::TRACE_ERRORS) != 0) {
+        for (const QString& problem : m_iniFile->problems())
+            _Q_Trace(problem, SOURCE_FILE, __LINE__);
+    }
+    return *m_iniFile;
+}
+
+Cfg* CfgCenter::cfgOfSection(const QString& section)
+{
+    const IniFile& file = iniFile();
+    std::unique_ptr<Cfg>& cfg = m_cfgs[section];
+    if (cfg == nullptr)
+        cfg = std::make_unique<Cfg>(section, withAbsolutePaths(file.section(section), QDir(m_readFolder)));
+    return cfg.get();
+}
+
+void CfgCenter::forgetWhatWasRead()
+{
+    m_iniFile.reset();
+    for (auto& cfg : m_cfgs)
+        m_formerCfgs.push_back(std::move(cfg.second));
+    m_cfgs.clear();
+}
