@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Session {
+
+/// The candidate that \p word was probably meant to be: the one with the fewest letters to change, case
+/// ignored; the earlier one of two that are equally near. A null string if none is near enough (more than a
+/// third of the letters).
+QString nearest(const QString& word, const QStringList& candidates);
+
+/// A sentence for error messages: ' Did you mean "X"?' with a leading blank, or empty without a near
+/// candidate.
+QString suggestion(const QString& word, const QStringList& candidates);
+
+} // namespace Session
