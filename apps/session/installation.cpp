@@ -1,0 +1,49 @@
+#include "installation.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <quilappstartup/cfgcenter.h>
+
+namespace {
+// The views of the configuration that the library asks for.
+constexpr int ADMINISTRATION_VIEW = 2;
+constexpr int JOB_MANAGEMENT_VIEW = 4;
+
+QString translate(const char* source)
+{
+    return QCoreApplication::translate("Session::Installation", source);
+}
+} // namespace
+
+namespace Session {
+
+bool chooseInstallation(const QString& folder, const QString& exampleFolder, QString* error)
+{
+    CfgCenter* const center = CfgCenter::Instance();
+    center->SetDefaultInstallation(exampleFolder);
+    center->SetInstallation(folder);
+    const QString chosen = center->GetInstallation();
+    const QString iniFile = QDir(chosen).filePath(QLatin1String(CfgCenter::INI_FILE_NAME));
+    if (!QFileInfo(chosen).isDir())
+        *error = translate("the installation folder %1 does not exist").arg(chosen);
+    else if (!QFileInfo(iniFile).isFile())
+        *error = translate("%1 is no installation: it has no %2").arg(chosen, QLatin1String(CfgCenter::INI_FILE_NAME));
+    else
+        *error = center->GetProblems().join(QLatin1Char('\n'));
+    return error->isEmpty();
+}
+
+QString templateFolder()
+{
+    CfgCenter* const center = CfgCenter::Instance();
+    QString folder = center->GetAdminCfg(ADMINISTRATION_VIEW)->GetString(QStringLiteral("VelmoDataDir")) +
+                     QLatin1String("\\TemplateFolder\\");
+    if (const Cfg* jobManagement = center->CreateCfg(QStringLiteral("JobManagement"), JOB_MANAGEMENT_VIEW, QString()))
+        folder = jobManagement->GetString(QStringLiteral("TemplateFolder"), folder);
+    if (folder.isEmpty())
+        return folder;
+    return QDir(folder.replace(QLatin1Char('\\'), QLatin1Char('/'))).absolutePath();
+}
+
+} // namespace Session
