@@ -21,11 +21,11 @@ const Option COMMON_OPTIONS[] = {
     {"version", nullptr, QT_TRANSLATE_NOOP("jedtool", "show the version")},
 };
 
-const char* const EXAMPLES = QT_TRANSLATE_NOOP("jedtool",
-                                               "Examples:\n"
-                                               "  jedtool resources list\n"
-                                               "  jedtool job new --type Search --resource HT720/HF-1 --out job.xml\n"
-                                               "  jedtool job check job.xml\n");
+const char* const EXAMPLES =
+    QT_TRANSLATE_NOOP("jedtool", "Examples:\n"
+                                 "  jedtool resources list\n"
+                                 "  jedtool job new --type Search --resource HT720/HF-1 --out job.xml\n"
+                                 "  jedtool job check job.xml\n");
 const char* const EXIT_CODES =
     QT_TRANSLATE_NOOP("jedtool", "Exit codes: 0 clean, 1 findings, 2 wrong usage, 3 internal fault\n");
 
@@ -99,14 +99,17 @@ QString programHelp()
 
 QString nounHelp(const Noun& noun)
 {
-    return translate("Usage: jedtool %1 VERB [ARGUMENT...] [OPTION...]\n\nVerbs:\n").arg(QLatin1String(noun.name)) +
-           summaries(noun.verbs) + translate("\nNext: jedtool %1 VERB --help\n").arg(QLatin1String(noun.name));
+    return translate("Usage: jedtool %1 VERB [ARGUMENT...] [OPTION...]\n\nVerbs:\n")
+               .arg(QLatin1String(noun.name)) +
+           summaries(noun.verbs) +
+           translate("\nNext: jedtool %1 VERB --help\n").arg(QLatin1String(noun.name));
 }
 
 QString verbHelp(const Noun& noun, const Verb& verb)
 {
     const QString name = QLatin1String(noun.name) + QLatin1Char(' ') + QLatin1String(verb.name);
-    QString result = translate("Usage: jedtool %1 %2\n\n%3\n").arg(name, translate(verb.synopsis), translate(verb.details));
+    QString result = translate("Usage: jedtool %1 %2\n\n%3\n")
+                         .arg(name, translate(verb.synopsis), translate(verb.details));
     if (!verb.options.isEmpty())
         result += translate("Options:\n") + optionsHelp(verb.options) + QLatin1Char('\n');
     return result + translate("Options of every verb:\n") + optionsHelp(COMMON_OPTIONS);
@@ -173,8 +176,8 @@ bool chooseInstallation(const QString& folder)
 
 ExitCode runVerb(const Noun& noun, const Verb& verb, const QStringList& arguments)
 {
-    const QString help =
-        QLatin1String("jedtool ") + QLatin1String(noun.name) + QLatin1Char(' ') + QLatin1String(verb.name) + QLatin1String(" --help");
+    const QString help = QLatin1String("jedtool ") + QLatin1String(noun.name) + QLatin1Char(' ') +
+                         QLatin1String(verb.name) + QLatin1String(" --help");
     QCommandLineParser parser;
     for (const Option& option : COMMON_OPTIONS)
         parser.addOption(toQtOption(option));
@@ -183,9 +186,10 @@ ExitCode runVerb(const Noun& noun, const Verb& verb, const QStringList& argument
     if (!parser.parse(QStringList(QString()) + arguments)) {
         const QStringList unknown = parser.unknownOptionNames();
         const QStringList known = namesOf(verb.options) + namesOf(COMMON_OPTIONS);
-        return usageError(unknown.isEmpty() ? parser.errorText()
-                                            : translate("there is no option --%1.%2")
-                                                  .arg(unknown.first(), Session::suggestion(unknown.first(), known)),
+        return usageError(unknown.isEmpty()
+                              ? parser.errorText()
+                              : translate("there is no option --%1.%2")
+                                    .arg(unknown.first(), Session::suggestion(unknown.first(), known)),
                           help);
     }
     const QString format = parser.isSet(FORMAT_OPTION) ? parser.value(FORMAT_OPTION) : QStringLiteral("text");
@@ -197,9 +201,10 @@ ExitCode runVerb(const Noun& noun, const Verb& verb, const QStringList& argument
     invocation.isJson = format == QLatin1String("json");
     const int count = invocation.arguments.size();
     if (count < verb.minimumArguments || (verb.maximumArguments >= 0 && count > verb.maximumArguments))
-        return usageError(translate("write: jedtool %1 %2 %3")
-                              .arg(QLatin1String(noun.name), QLatin1String(verb.name), translate(verb.synopsis)),
-                          help);
+        return usageError(
+            translate("write: jedtool %1 %2 %3")
+                .arg(QLatin1String(noun.name), QLatin1String(verb.name), translate(verb.synopsis)),
+            help);
     return chooseInstallation(parser.value(INSTALLATION_OPTION)) ? verb.run(invocation) : USAGE;
 }
 
@@ -221,7 +226,8 @@ void write(const QString& text, std::FILE* stream)
 
 bool Invocation::isSet(const QString& option) const
 {
-    return std::any_of(options.begin(), options.end(), [&option](const auto& given) { return given.first == option; });
+    return std::any_of(options.begin(), options.end(),
+                       [&option](const auto& given) { return given.first == option; });
 }
 
 QString Invocation::value(const QString& option, const QString& fallback) const
@@ -239,7 +245,8 @@ ExitCode runCommandLine(const QStringList& arguments)
     const bool helpAsked = arguments.contains(QLatin1String("--help"));
     if (arguments.contains(QLatin1String("--version"))) {
         print(translate("jedtool %1 (library interface %2, Qt %3)\n")
-                  .arg(QStringLiteral(JED_VERSION), QString::number(JEDVEPB_INTERFACE_VERSION), QLatin1String(qVersion())));
+                  .arg(QStringLiteral(JED_VERSION), QString::number(JEDVEPB_INTERFACE_VERSION),
+                       QLatin1String(qVersion())));
         return CLEAN;
     }
     const QStringList words = positionalArguments(arguments);
@@ -254,9 +261,10 @@ ExitCode runCommandLine(const QStringList& arguments)
         return printHelp(nounHelp(*noun), helpAsked);
     const Verb* verb = findByName(noun->verbs, words.at(1));
     if (!verb)
-        return usageError(translate("%1 has no verb \"%2\".%3")
-                              .arg(words.at(0), words.at(1), Session::suggestion(words.at(1), namesOf(noun->verbs))),
-                          QStringLiteral("jedtool %1 --help").arg(words.at(0)));
+        return usageError(
+            translate("%1 has no verb \"%2\".%3")
+                .arg(words.at(0), words.at(1), Session::suggestion(words.at(1), namesOf(noun->verbs))),
+            QStringLiteral("jedtool %1 --help").arg(words.at(0)));
     return helpAsked ? printHelp(verbHelp(*noun, *verb), true) : runVerb(*noun, *verb, arguments);
 }
 

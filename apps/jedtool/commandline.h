@@ -29,9 +29,9 @@ struct Option
 class Invocation
 {
 public:
-    QStringList arguments;                      ///< those behind the verb
-    QVector<QPair<QString, QString>> options;   ///< name and value of each given option, in order
-    bool isJson = false;                        ///< --format json
+    QStringList arguments;                    ///< those behind the verb
+    QVector<QPair<QString, QString>> options; ///< name and value of each given option, in order
+    bool isJson = false;                      ///< --format json
 
     bool isSet(const QString& option) const;
     /// The last value given, or \p fallback.

@@ -39,7 +39,8 @@ ElementPositions::ElementPositions(const QString& xml)
                     lineStart = passed + 1;
                 }
             }
-            const QString path = levels.isEmpty() ? QString() : childPath(&levels.last(), reader.name().toString());
+            const QString path =
+                levels.isEmpty() ? QString() : childPath(&levels.last(), reader.name().toString());
             m_positions.insert(path, {line, start - lineStart + 1});
             levels.append({path, {}});
         }

@@ -28,7 +28,8 @@ bool chooseInstallation(const QString& folder, const QString& exampleFolder, QSt
     if (!QFileInfo(chosen).isDir())
         *error = translate("the installation folder %1 does not exist").arg(chosen);
     else if (!QFileInfo(iniFile).isFile())
-        *error = translate("%1 is no installation: it has no %2").arg(chosen, QLatin1String(CfgCenter::INI_FILE_NAME));
+        *error = translate("%1 is no installation: it has no %2")
+                     .arg(chosen, QLatin1String(CfgCenter::INI_FILE_NAME));
     else
         *error = center->GetProblems().join(QLatin1Char('\n'));
     return error->isEmpty();
@@ -39,7 +40,8 @@ QString templateFolder()
     CfgCenter* const center = CfgCenter::Instance();
     QString folder = center->GetAdminCfg(ADMINISTRATION_VIEW)->GetString(QStringLiteral("VelmoDataDir")) +
                      QLatin1String("\\TemplateFolder\\");
-    if (const Cfg* jobManagement = center->CreateCfg(QStringLiteral("JobManagement"), JOB_MANAGEMENT_VIEW, QString()))
+    if (const Cfg* jobManagement =
+            center->CreateCfg(QStringLiteral("JobManagement"), JOB_MANAGEMENT_VIEW, QString()))
         folder = jobManagement->GetString(QStringLiteral("TemplateFolder"), folder);
     if (folder.isEmpty())
         return folder;

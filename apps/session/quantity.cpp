@@ -13,10 +13,14 @@ struct Suffix
 };
 
 const Suffix SUFFIXES[] = {
-    {QLatin1String("Hz"), QLatin1String("kHz"), 1e3, true},    {QLatin1String("Hz"), QLatin1String("MHz"), 1e6, true},
-    {QLatin1String("Hz"), QLatin1String("GHz"), 1e9, true},    {QLatin1String("Hz"), QLatin1String("k"), 1e3, false},
-    {QLatin1String("Hz"), QLatin1String("M"), 1e6, false},     {QLatin1String("Hz"), QLatin1String("G"), 1e9, false},
-    {QLatin1String("ms"), QLatin1String("s"), 1e3, true},      {QLatin1String("ms"), QLatin1String("min"), 6e4, true},
+    {QLatin1String("Hz"), QLatin1String("kHz"), 1e3, true},
+    {QLatin1String("Hz"), QLatin1String("MHz"), 1e6, true},
+    {QLatin1String("Hz"), QLatin1String("GHz"), 1e9, true},
+    {QLatin1String("Hz"), QLatin1String("k"), 1e3, false},
+    {QLatin1String("Hz"), QLatin1String("M"), 1e6, false},
+    {QLatin1String("Hz"), QLatin1String("G"), 1e9, false},
+    {QLatin1String("ms"), QLatin1String("s"), 1e3, true},
+    {QLatin1String("ms"), QLatin1String("min"), 6e4, true},
     {QLatin1String("ms"), QLatin1String("h"), 3.6e6, true},
 };
 

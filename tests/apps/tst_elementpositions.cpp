@@ -29,13 +29,20 @@ void TstElementPositions::elementsBeginAt_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("position");
-    QTest::newRow("root") << "" << "3:1";
-    QTest::newRow("child") << "Node:0" << "5:3";
-    QTest::newRow("second on a line") << "Node:1" << "5:11";
-    QTest::newRow("grandchild") << "Node:1/Item:0" << "6:14";
-    QTest::newRow("siblings are counted by name") << "Other:0" << "7:3";
-    QTest::newRow("counted anew in each parent; letters beyond 16 bits") << "Other:0/Node:0" << "7:13";
-    QTest::newRow("none") << "Node:2" << "0:0";
+    QTest::newRow("root") << ""
+                          << "3:1";
+    QTest::newRow("child") << "Node:0"
+                           << "5:3";
+    QTest::newRow("second on a line") << "Node:1"
+                                      << "5:11";
+    QTest::newRow("grandchild") << "Node:1/Item:0"
+                                << "6:14";
+    QTest::newRow("siblings are counted by name") << "Other:0"
+                                                  << "7:3";
+    QTest::newRow("counted anew in each parent; letters beyond 16 bits") << "Other:0/Node:0"
+                                                                         << "7:13";
+    QTest::newRow("none") << "Node:2"
+                          << "0:0";
 }
 
 void TstElementPositions::elementsBeginAt()

@@ -75,15 +75,16 @@ void TstInstallation::templateFolderOf_data()
 {
     QTest::addColumn<QByteArray>("configuration");
     QTest::addColumn<QString>("folder"); // Below the installation's folder, unless it is absolute.
-    QTest::newRow("from the data folder") << QByteArray("[Administration]\nVelmoDataDir=data\n")
-                                          << "data/TemplateFolder";
+    QTest::newRow("from the data folder")
+        << QByteArray("[Administration]\nVelmoDataDir=data\n") << "data/TemplateFolder";
     QTest::newRow("named") << QByteArray("[Administration]\nVelmoDataDir=data\n"
                                          "[JobManagement]\nTemplateFolder=receivers\n")
                            << "receivers";
-    QTest::newRow("section without the key") << QByteArray("[Administration]\nVelmoDataDir=data\n[JobManagement]\n")
-                                             << "data/TemplateFolder";
+    QTest::newRow("section without the key")
+        << QByteArray("[Administration]\nVelmoDataDir=data\n[JobManagement]\n") << "data/TemplateFolder";
     QTest::newRow("empty") << QByteArray("[JobManagement]\nTemplateFolder=\n") << "";
-    QTest::newRow("absolute") << QByteArray("[JobManagement]\nTemplateFolder=/srv/receivers\n") << "/srv/receivers";
+    QTest::newRow("absolute") << QByteArray("[JobManagement]\nTemplateFolder=/srv/receivers\n")
+                              << "/srv/receivers";
 }
 
 void TstInstallation::templateFolderOf()
