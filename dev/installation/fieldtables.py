@@ -1,4 +1,5 @@
 """What the makers of data need to know of a schema: the parameter sets, their fields and the types of these."""
+import os
 import xml.etree.ElementTree as ElementTree
 from collections import namedtuple
 
@@ -15,13 +16,20 @@ BUILT_IN = {"xs:boolean": "boolean", "xs:int": "int", "xs:long": "long", "xs:flo
 
 
 class Schema:
+    """A schema and what it includes."""
+
     def __init__(self, path):
-        root = ElementTree.parse(path).getroot()
         self.simple = {name: SimpleType(name, kind, None, None, []) for name, kind in BUILT_IN.items()}
-        for element in root.findall(XS + "simpleType"):
-            self.simple[element.get("name")] = simple_type(element)
         self.complex = {}
         self.sets = {}
+        self.read(path)
+
+    def read(self, path):
+        root = ElementTree.parse(path).getroot()
+        for element in root.findall(XS + "include"):
+            self.read(os.path.join(os.path.dirname(path), element.get("schemaLocation")))
+        for element in root.findall(XS + "simpleType"):
+            self.simple[element.get("name")] = simple_type(element)
         for element in root.findall(XS + "complexType"):
             self.complex[element.get("name")] = [self.field(e) for e in element.iter(XS + "element")]
             mark = element.find(f"{XS}annotation/{XS}appinfo/{JED}parameterSet")

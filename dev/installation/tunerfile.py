@@ -55,8 +55,8 @@ def text(schema, receiver):
     return "\n".join(lines) + "\n</TunerProperties>\n"
 
 
-def node(schema, receiver, set_name, values):
-    """All fields of the set, with the receiver's values; a value of None leaves the field out."""
+def values_of(schema, receiver, set_name, values):
+    """Path, field and value of all that the receiver offers of the set; a value of None leaves a field out."""
     fields = dict(schema.fields(schema.sets[set_name]))
     unknown = set(values) - set(fields)
     if unknown:
@@ -64,9 +64,14 @@ def node(schema, receiver, set_name, values):
     for path, field in fields.items():
         value = values.get(path, default(field))
         if value is not None:
-            yield "      <ValueItem>"
-            yield from ("        " + line for line in item(receiver, path, field, value))
-            yield "      </ValueItem>"
+            yield path, field, value
+
+
+def node(schema, receiver, set_name, values):
+    for path, field, value in values_of(schema, receiver, set_name, values):
+        yield "      <ValueItem>"
+        yield from ("        " + line for line in item(receiver, path, field, value))
+        yield "      </ValueItem>"
 
 
 def default(field):
@@ -80,6 +85,19 @@ def default(field):
     if kind == "string":
         return field.default or ""
     return float(field.default)
+
+
+def initial(receiver, field, value):
+    """What a new sub-job has: one text, or the texts of a list."""
+    if isinstance(value, Texts):
+        return [str(text) for text in value]
+    if isinstance(value, Choice):
+        return number(value.items[value.index])
+    if isinstance(value, Plain):
+        return number(value.value)
+    if field.type.kind in NUMERIC:
+        return number(with_range(receiver, field.type, value)[0])
+    return number(value)
 
 
 def item(receiver, path, field, value):
@@ -110,15 +128,21 @@ def selection_items(kind, choice):
 
 
 def numeric(receiver, path, kind, value):
-    low, high, step = range_of(receiver, kind)
-    if isinstance(value, tuple):
-        value, low, high, step = value
-    value = min(max(value, low), high) if kind.name in ("FrequencyType", "BandwidthType") else value
+    value, low, high, step = with_range(receiver, kind, value)
     inside = (kind.low is None or kind.low <= low) and (kind.high is None or high <= kind.high)
     if not low <= value <= high or not inside:
         raise ValueError(f"{receiver['file']}: {path} = {value} in {low} .. {high} does not fit the schema or itself")
     return f"<{NUMERIC[kind.kind]}" + attributes(id=path, value=number(value), min=number(low), max=number(high),
                                                  step=number(step)) + "/>"
+
+
+def with_range(receiver, kind, value):
+    if isinstance(value, tuple):
+        return value
+    low, high, step = range_of(receiver, kind)
+    if kind.name in ("FrequencyType", "BandwidthType"):
+        value = min(max(value, low), high)
+    return value, low, high, step
 
 
 def range_of(receiver, kind):
