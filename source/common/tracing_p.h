@@ -1,0 +1,13 @@
+#pragma once
+
+#include "tracepoints.h"
+
+class QString;
+
+namespace JEDVEPLUGIN {
+
+/// Traces a message of the class "errors and diagnostics", unless the installation has switched that class
+/// off.
+void traceError(const TracePoint& point, const QString& message);
+
+} // namespace JEDVEPLUGIN
