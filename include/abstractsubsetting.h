@@ -71,7 +71,7 @@ protected:
     bool otherTypesSameLevel() const;
 
 private:
-    int endOfGroup(const QString& type) const;
+    int endOfGroup(const QList<ISubSetting*>& group) const;
     void rebuildTypeIndex(const QString& type);
 
     ISubSetting* m_parent;                         // Not owned.

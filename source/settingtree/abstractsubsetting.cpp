@@ -7,6 +7,19 @@ namespace JEDVEPLUGIN {
 
 namespace {
 const QLatin1String GENERAL_SETTINGS("GeneralSettings");
+const int MAX_STRIDES = 64; // beyond that many groups, comparing every entry is faster
+
+// QList::insert() mostly shifts all that comes behind; this shifts the shorter side.
+void insertAt(QList<ISubSetting*>& list, int place, ISubSetting* entry)
+{
+    if (place < list.size() / 2) {
+        list.prepend(entry);
+        list.move(0, place);
+    } else {
+        list.append(entry);
+        list.move(list.size() - 1, place);
+    }
+}
 } // namespace
 
 AbstractSubSetting::AbstractSubSetting(const AbstractSubSetting& other) = default;
@@ -73,9 +86,9 @@ void AbstractSubSetting::appendSubsetting(ISubSetting* child)
 {
     if (!child)
         return;
-    const QString type = child->getSettingType();
-    children.insert(endOfGroup(type), child);
-    typeIndex[type].append(child);
+    QList<ISubSetting*>& group = typeIndex[child->getSettingType()];
+    insertAt(children, endOfGroup(group), child);
+    group.append(child);
 }
 
 void AbstractSubSetting::removeSubSetting(ISubSetting* child)
@@ -207,27 +220,22 @@ bool AbstractSubSetting::otherTypesSameLevel() const
     return false;
 }
 
-// The place behind the last child of a type, the end of the list if there is none. Children of one type
-// usually stand together: the walk from the end steps over whole groups and compares single entries only
-// where moves have torn a group apart. A group is whole if its first and its last entry are as far apart as
-// it is long.
-int AbstractSubSetting::endOfGroup(const QString& type) const
+// The place behind the last child of a group, the end of the list if the group is empty. Children of one type
+// usually stand together, so the walk from the end takes whole groups in its stride. It misses its aim only
+// where moves have torn groups apart, and gives up where there are very many.
+int AbstractSubSetting::endOfGroup(const QList<ISubSetting*>& group) const
 {
-    const auto group = typeIndex.constFind(type);
-    if (group == typeIndex.constEnd() || group->isEmpty())
+    if (group.isEmpty())
         return children.size();
-    ISubSetting* last = group->last();
+    ISubSetting* last = group.last();
     int place = children.size() - 1;
-    while (place >= 0 && children.at(place) != last) {
+    for (int strides = 0; strides < MAX_STRIDES && place >= 0; ++strides) {
+        if (children.at(place) == last)
+            return place + 1;
         const auto other = typeIndex.constFind(children.at(place)->getSettingType());
-        const int size = other == typeIndex.constEnd() ? 0 : other->size();
-        const int first = place - size + 1;
-        if (size == 0 || first < 0 || children.at(place) != other->last() ||
-            children.at(first) != other->first())
-            return children.lastIndexOf(last, place) + 1;
-        place = first - 1;
+        place -= other == typeIndex.constEnd() ? 1 : qMax(1, other->size());
     }
-    return place + 1;
+    return children.lastIndexOf(last) + 1;
 }
 
 void AbstractSubSetting::rebuildTypeIndex(const QString& type)
