@@ -71,9 +71,6 @@ protected:
     bool otherTypesSameLevel() const;
 
 private:
-    int endOfGroup(const QList<ISubSetting*>& group) const;
-    void rebuildTypeIndex(const QString& type);
-
     ISubSetting* m_parent;                         // Not owned.
     QList<ISubSetting*> children;                  // Owned, in display order.
     QHash<QString, QList<ISubSetting*>> typeIndex; // The same children by type, each list in display order.

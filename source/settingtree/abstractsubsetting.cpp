@@ -6,11 +6,33 @@
 namespace JEDVEPLUGIN {
 
 namespace {
+
+using Children = QList<ISubSetting*>;
+using TypeIndex = QHash<QString, Children>;
+
 const QLatin1String GENERAL_SETTINGS("GeneralSettings");
 const int MAX_STRIDES = 64; // beyond that many groups, comparing every entry is faster
 
+// The place behind the last child of a group, the end of the list if the group is empty. Children of one type
+// usually stand together, so the walk from the end takes whole groups in its stride. It misses its aim only where
+// moves have torn groups apart, and gives up where there are very many.
+int endOfGroup(const Children& children, const TypeIndex& typeIndex, const Children& group)
+{
+    if (group.isEmpty())
+        return children.size();
+    ISubSetting* last = group.last();
+    int place = children.size() - 1;
+    for (int strides = 0; strides < MAX_STRIDES && place >= 0; ++strides) {
+        if (children.at(place) == last)
+            return place + 1;
+        const auto other = typeIndex.constFind(children.at(place)->getSettingType());
+        place -= other == typeIndex.constEnd() ? 1 : qMax(1, other->size());
+    }
+    return children.lastIndexOf(last) + 1;
+}
+
 // QList::insert() mostly shifts all that comes behind; this shifts the shorter side.
-void insertAt(QList<ISubSetting*>& list, int place, ISubSetting* entry)
+void insertAt(Children& list, int place, ISubSetting* entry)
 {
     if (place < list.size() / 2) {
         list.prepend(entry);
@@ -20,6 +42,17 @@ void insertAt(QList<ISubSetting*>& list, int place, ISubSetting* entry)
         list.move(list.size() - 1, place);
     }
 }
+
+Children ofType(const Children& children, const QString& type)
+{
+    Children group;
+    for (ISubSetting* child : children) {
+        if (child->getSettingType() == type)
+            group.append(child);
+    }
+    return group;
+}
+
 } // namespace
 
 AbstractSubSetting::AbstractSubSetting(const AbstractSubSetting& other) = default;
@@ -86,8 +119,8 @@ void AbstractSubSetting::appendSubsetting(ISubSetting* child)
 {
     if (!child)
         return;
-    QList<ISubSetting*>& group = typeIndex[child->getSettingType()];
-    insertAt(children, endOfGroup(group), child);
+    Children& group = typeIndex[child->getSettingType()];
+    insertAt(children, endOfGroup(children, typeIndex, group), child);
     group.append(child);
 }
 
@@ -170,7 +203,8 @@ void AbstractSubSetting::moveChild(int from, int to)
     if (!movedChild)
         return;
     children.move(from, to);
-    rebuildTypeIndex(movedChild->getSettingType());
+    const QString type = movedChild->getSettingType();
+    typeIndex[type] = ofType(children, type);
     movedChild->moved();
 }
 
@@ -218,34 +252,6 @@ bool AbstractSubSetting::otherTypesSameLevel() const
             return true;
     }
     return false;
-}
-
-// The place behind the last child of a group, the end of the list if the group is empty. Children of one type
-// usually stand together, so the walk from the end takes whole groups in its stride. It misses its aim only
-// where moves have torn groups apart, and gives up where there are very many.
-int AbstractSubSetting::endOfGroup(const QList<ISubSetting*>& group) const
-{
-    if (group.isEmpty())
-        return children.size();
-    ISubSetting* last = group.last();
-    int place = children.size() - 1;
-    for (int strides = 0; strides < MAX_STRIDES && place >= 0; ++strides) {
-        if (children.at(place) == last)
-            return place + 1;
-        const auto other = typeIndex.constFind(children.at(place)->getSettingType());
-        place -= other == typeIndex.constEnd() ? 1 : qMax(1, other->size());
-    }
-    return children.lastIndexOf(last) + 1;
-}
-
-void AbstractSubSetting::rebuildTypeIndex(const QString& type)
-{
-    QList<ISubSetting*>& group = typeIndex[type];
-    group.clear();
-    for (ISubSetting* child : qAsConst(children)) {
-        if (child->getSettingType() == type)
-            group.append(child);
-    }
 }
 
 } // namespace JEDVEPLUGIN
