@@ -78,8 +78,7 @@ Node* Tree::FindNode(const QString& path) const
     if (path == QLatin1String("/"))
         return m_root;
     const QStringList ids = idsOf(path);
-    const Node* const parent = ids.isEmpty() ? nullptr : parentOf(ids);
-    return parent == nullptr ? nullptr : childNode(parent, pathOf(ids), ids.last());
+    return ids.isEmpty() ? nullptr : childNode(parentOf(ids), pathOf(ids), ids.last());
 }
 
 Node* Tree::CreatePath(const QString& path)
@@ -140,14 +139,17 @@ ValueBase* Tree::registered(const QString& path) const
 Node* Tree::childNode(const Node* parent, const QString& path, const QString& id) const
 {
     ValueBase* const value = registered(path);
-    return value != nullptr && value->m_isNode ? static_cast<Node*>(value) : parent->GetChildNode(id);
+    if (value != nullptr && value->m_isNode)
+        return static_cast<Node*>(value);
+    return parent == nullptr ? nullptr : parent->GetChildNode(id);
 }
 
 const Node* Tree::parentOf(const QStringList& ids) const
 {
     const Node* node = m_root;
     QString prefix;
-    for (int i = 0; node != nullptr && i < ids.size() - 1; ++i) {
+    // Goes on where there is no node, since one may be registered further down.
+    for (int i = 0; i < ids.size() - 1; ++i) {
         prefix += QLatin1Char('/') + ids.at(i);
         node = childNode(node, prefix, ids.at(i));
     }

@@ -47,6 +47,7 @@ private:
     Q_DISABLE_COPY(Tree)
 
     ValueBase* registered(const QString& path) const;
+    /// The node registered under \p path, otherwise the child of \p parent, which may be null.
     Node* childNode(const Node* parent, const QString& path, const QString& id) const;
     const Node* parentOf(const QStringList& ids) const;
     QString newestPath(const ValueBase* value) const { return m_paths.value(value).constLast(); }
