@@ -18,8 +18,7 @@ class IniFile;
 /// An installation is a folder with a file "installation.ini" (UTF-8, sections and key=value lines;
 /// backslashes in values stand for themselves). A value whose key ends in "Dir" or "Folder" is a path: unless
 /// it is empty it is taken relative to the installation's folder and given out absolute. Paths that start
-/// like those of Windows
-/// ("C:\", "\\server") are absolute everywhere.
+/// like those of Windows ("C:\", "\\server") are absolute everywhere.
 ///
 /// The folder is, in this order: what SetInstallation() was given, the environment variable JED_INSTALLATION,
 /// what SetDefaultInstallation() was given. It is read when the first configuration is asked for.
@@ -46,13 +45,14 @@ public:
     QStringList GetProblems();
 
     /// The configuration of the whole installation ("BasicInstallationDir", "VelmoDataDir"). Never null;
-    /// without an installation it has no keys. Owned by the centre. \param view  which view of the
-    /// installation's on its configuration; here they are all the same
+    /// without an installation it has no keys. Owned by the centre.
+    /// \param view  which view of the installation's on its configuration; here they are all the same
     Cfg* GetAdminCfg(int view);
     /// The configuration of one application or subject, null if the installation has no such section. The
-    /// same object for the same arguments. Owned by the centre. \param name     name of the section
-    /// ("JobManagement"); upper and lower case are different \param view     as for GetAdminCfg() \param
-    /// variant  if it is not empty, the section "name.variant" is meant
+    /// same object for the same arguments. Owned by the centre.
+    /// \param name  name of the section ("JobManagement"); upper and lower case are different
+    /// \param view  as for GetAdminCfg()
+    /// \param variant  if it is not empty, the section "name.variant" is meant
     Cfg* CreateCfg(const QString& name, int view, const QString& variant);
 
 private:

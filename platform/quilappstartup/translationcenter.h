@@ -27,9 +27,9 @@ public:
 
     /// Takes the translations back that are in force and installs those of \p language into the application:
     /// the files of the bare language ("de") and then of the country ("de_CH"), so that the more special text
-    /// wins and of equal ones that of the folder added last. Empty: the texts of the source. \return false if
-    /// there is no application object or no readable file of that language; the texts are then
-    ///         those of the source
+    /// wins and of equal ones that of the folder added last. Empty: the texts of the source.
+    /// \return false if there is no application object or no readable file of that language; the texts are
+    ///         then those of the source
     bool SetLanguage(const QString& language);
     /// The language in force, empty for the texts of the source.
     QString GetLanguage() const { return m_language; }

@@ -24,12 +24,11 @@ public:
     Node* GetChildNode(const QString& id) const;
 
     /// Takes a value or node as the last child and owns it from then on. Tells the child's observers
-    /// CHANGE_PATH if that gives it a path name. \param key  the child's id; empty: its own name, also after
-    /// later changes of the name. A child without any
-    ///             id is kept, but no look-up finds it.
+    /// CHANGE_PATH if that gives it a path name.
+    /// \param key  the child's id; empty: its own name, also after later changes of the name. A child without
+    ///             any id is kept, but no look-up finds it.
     /// \return false, the child still being the caller's, if it is null, leaving, in a node already, this
-    /// node or
-    ///         above it, if \p key contains "/", or if this node is being deleted
+    ///         node or above it, if \p key contains "/", or if this node is being deleted
     bool AddChild(ValueBase* child, const QString& key = QString());
     /// The value of that id, otherwise the child node of that id, otherwise null.
     ValueBase* GetChild(const QString& id) const;

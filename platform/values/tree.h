@@ -20,7 +20,8 @@ public:
     Node* GetRoot() const { return m_root; }
 
     /// What was registered under \p path, otherwise the value there, otherwise the node there. "/" is the
-    /// root. \return null if there is nothing, or only what is being deleted
+    /// root.
+    /// \return null if there is nothing, or only what is being deleted
     ValueBase* FindByPath(const QString& path) const;
     /// The node at \p path, registered ones first. Null if there is none, even if there is a value.
     Node* FindNode(const QString& path) const;
@@ -32,8 +33,8 @@ public:
     /// ownership stays where it is. What is below a registered node is found under that address too. A path
     /// in use goes to the newcomer: a former holder that was registered there loses it, one that stands there
     /// is not found until the newcomer goes. Tells CHANGE_PATH if the path name changes, first for \p value,
-    /// then for a former holder. \return false if \p value is null or leaving, or for a path that is empty or
-    /// has an empty id in it
+    /// then for a former holder.
+    /// \return false if \p value is null or leaving, or for a path that is empty or has an empty id in it
     bool RegisterValue(ValueBase* value, const QString& path);
     /// Takes back all addresses that were registered for \p value. Tells CHANGE_PATH if it had any.
     /// \return false if there were none
@@ -56,6 +57,6 @@ private:
 
     Node* m_root;                            // Owned.
     QHash<QString, ValueBase*> m_registered; // Path to who holds it, not owned.
-    QHash<const ValueBase*, QStringList>
-        m_paths; // Registered paths of a value, the newest last, never empty.
+    // The registered paths of a value, the newest last. Without values that have none.
+    QHash<const ValueBase*, QStringList> m_paths;
 };

@@ -27,8 +27,8 @@ public:
     virtual ~IObserver();
 
     /// Called after the change, on the thread that made it. May attach and detach any observer, change \p
-    /// sender again (which tells everybody anew, nested) and delete it. \param sender  who has changed, never
-    /// null
+    /// sender again (which tells everybody anew, nested) and delete it.
+    /// \param sender  who has changed, never null
     virtual void Update(Observable* sender, TChangeCode code) = 0;
 };
 

@@ -11,9 +11,9 @@
 class ZUBASE_EXPORT ZuException : public std::exception
 {
 public:
-    /// \param reason     text for the trace or the user
+    /// \param reason  text for the trace or the user
     /// \param className  class that gave up, may be empty
-    /// \param method     its operation, may be empty
+    /// \param method  its operation, may be empty
     explicit ZuException(const QString& reason, const QString& className = QString(),
                          const QString& method = QString());
     ~ZuException() override;
