@@ -196,8 +196,8 @@ class Field:
         info = (node.info("jed:field") or [Node(node.file, node.line)])[0]
         self.label, self.unit, self.help = info.get("label"), info.get("unit"), info.get("help")
         given = [text for text in (node.get("default"), info.get("default")) if text is not None]
-        need(not given or not (len(given) > 1 or self.list or self.complex or node.get("use") == "required"), node,
-             "a default is not supported here")
+        excess = len(given) > 1 or self.list or self.complex or (node.get("default") and self.required)
+        need(not given or not excess, node, "a default is not supported here")
         self.default = given[0] if given else None
         self.default_number = self.type.default(node, given[0]) if given else None
 
