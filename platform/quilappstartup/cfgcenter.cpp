@@ -1,5 +1,6 @@
 #include <quilappstartup/cfgcenter.h>
 
+#include <quilappstartup/dllinstances_p.h>
 #include <quilappstartup/inifile_p.h>
 
 #include <zubase/errorhandler.h>
@@ -10,6 +11,7 @@
 namespace {
 
 const char* const SOURCE_FILE = "cfgcenter";
+const QLatin1String COMPONENT_FOLDER_KEY("ComponentFolder");
 
 const QLatin1String PATH_KEY_ENDINGS[] = {QLatin1String("Dir"), QLatin1String("Folder")};
 
@@ -47,7 +49,10 @@ CfgCenter* CfgCenter::Instance()
     return s_instance;
 }
 
-CfgCenter::CfgCenter() = default;
+CfgCenter::CfgCenter()
+    : m_dllInstances(std::make_unique<DllInstances>())
+{
+}
 
 CfgCenter::~CfgCenter() = default;
 
@@ -86,6 +91,37 @@ Cfg* CfgCenter::CreateCfg(const QString& name, int, const QString& variant)
 {
     const QString section = variant.isEmpty() ? name : QString("%1.%2").arg(name, variant);
     return iniFile().hasSection(section) ? cfgOfSection(section) : nullptr;
+}
+
+void CfgCenter::AddComponentFolder(const QString& folder)
+{
+    if (!folder.isEmpty() && !m_componentFolders.contains(folder))
+        m_componentFolders.append(folder);
+}
+
+QStringList CfgCenter::GetComponentFolders()
+{
+    QStringList folders = m_componentFolders;
+    const QString configured = cfgOfSection(QLatin1String(ADMIN_SECTION))->GetString(COMPONENT_FOLDER_KEY);
+    if (!configured.isEmpty())
+        folders.prepend(configured);
+    return folders;
+}
+
+IDllInstance* CfgCenter::CreateDllInstanceByFileName(const QString& fileName, const QString& instanceName,
+                                                     bool, bool)
+{
+    return m_dllInstances->create(fileName, instanceName, GetComponentFolders());
+}
+
+IDllInstance* CfgCenter::GetDllInstanceByFileName(const QString& fileName, const QString& instanceName) const
+{
+    return m_dllInstances->find(fileName, instanceName);
+}
+
+bool CfgCenter::DestroyDllInstanceByPointer(IDllInstance* instance)
+{
+    return m_dllInstances->destroy(instance);
 }
 
 const IniFile& CfgCenter::iniFile()

@@ -10,10 +10,12 @@
 #include <memory>
 #include <vector>
 
+class DllInstances;
+class IDllInstance;
 class IniFile;
 
-/// Gives out the configurations of the installation. One for the process; made on first use, never destroyed.
-/// GUI thread only.
+/// Gives out the configurations of the installation and the instances of its component libraries. One for
+/// the process; made on first use, never destroyed. GUI thread only.
 ///
 /// An installation is a folder with a file "installation.ini" (UTF-8, sections and key=value lines;
 /// backslashes in values stand for themselves). A value whose key ends in "Dir" or "Folder" is a path: unless
@@ -55,6 +57,27 @@ public:
     /// \param variant  if it is not empty, the section "name.variant" is meant
     Cfg* CreateCfg(const QString& name, int view, const QString& variant);
 
+    /// Adds a folder with component libraries; it need not exist. Those of the installation come first.
+    void AddComponentFolder(const QString& folder);
+    /// The folders in which component libraries are looked for: the "ComponentFolder" of the installation's
+    /// section "Administration" if it is set and not empty, then those added, in their order.
+    QStringList GetComponentFolders();
+
+    /// Makes a new instance out of a component library, which is examined before any of its code runs and
+    /// stays loaded until the process ends. The two last arguments are start-up options of an installation's
+    /// own edition; here they change nothing. Throws ZuException, its reason being what is wrong and what to
+    /// do.
+    /// \param fileName      "Name.dll" on every system, without a folder
+    /// \param instanceName  by which GetDllInstanceByFileName() finds it, usually empty
+    /// \return never null; the centre's, to be released by DestroyDllInstanceByPointer()
+    IDllInstance* CreateDllInstanceByFileName(const QString& fileName, const QString& instanceName, bool,
+                                              bool);
+    /// The oldest living instance of that library and name, null if there is none. Loads nothing.
+    IDllInstance* GetDllInstanceByFileName(const QString& fileName, const QString& instanceName) const;
+    /// Deletes an instance.
+    /// \return false, with nothing done, for null and for what CreateDllInstanceByFileName() has not made
+    bool DestroyDllInstanceByPointer(IDllInstance* instance);
+
 private:
     CfgCenter();
     ~CfgCenter();
@@ -70,4 +93,6 @@ private:
     std::unique_ptr<IniFile> m_iniFile;             // Null until the first configuration is asked for.
     std::map<QString, std::unique_ptr<Cfg>> m_cfgs; // By section.
     std::vector<std::unique_ptr<Cfg>> m_formerCfgs; // Given out, of installations in use before.
+    QStringList m_componentFolders;                 // Those added.
+    std::unique_ptr<DllInstances> m_dllInstances;   // Never null.
 };

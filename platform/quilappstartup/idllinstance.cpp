@@ -1,0 +1,7 @@
+#include <quilappstartup/idllinstance.h>
+
+IDllInstance::IDllInstance() = default;
+
+IDllInstance::~IDllInstance() = default;
+
+IDllFactory::~IDllFactory() = default;
