@@ -179,7 +179,8 @@ int ElementTable::firstElement() const
 QString ElementTable::alternativeName(int number) const
 {
     const int first = firstElement();
-    return number >= 0 && number < fieldCount - first ? QString::fromLatin1(fields[first + number].name) : QString();
+    return number >= 0 && number < fieldCount - first ? QString::fromLatin1(fields[first + number].name)
+                                                      : QString();
 }
 
 QString ParameterSet::label() const
