@@ -24,7 +24,7 @@ OPERATIONS = {
              ("void @Append{n}({p} value)", "Get{n}().append(value);")],
     "every": [("bool @Is{n}Set() const", "return isFieldSet({i});"), ("void @Reset{n}()", "resetField({i});")],
     "enumeration": [("static QString @{n}ToName({t} value)", "return Tables::{e}.name(value);"),
-                    ("static {q} @NameTo{n}(const QString& name)", "return static_cast<{t}>(Tables::{e}.number(name));"),
+                    ("static {q} @NameTo{n}(const QString& name)", "return {t}(Tables::{e}.number(name));"),
                     ("static QStringList @Get{n}s()", "return Tables::{e}.allNames();"),
                     ("static QStringList @GetGUI{n}s()", "return Tables::{e}.allGuiTexts();")],
     "choice": [("int @GetChoice{n}() const", "return chosen();"),
@@ -40,12 +40,9 @@ def literal(text):
     return "nullptr" if text is None else '"%s"' % text.replace("\\", "\\\\").replace('"', '\\"')
 
 
-def comment(text):
-    return wrap(text, 108, initial_indent="/// ", subsequent_indent="/// ")
-
-
-def sentence(text):
-    return text if not text or text.endswith(".") else text + "."
+def comment(*sentences):
+    text = " ".join(text if text.endswith(".") else text + "." for text in sentences if text)
+    return wrap(text, 106, initial_indent="/// ", subsequent_indent="/// ")
 
 
 def description(field):
@@ -55,7 +52,7 @@ def description(field):
         parts.append("from %s to %s" % (field.type.minimum or "the least", field.type.maximum or "the greatest"))
     parts.append("required" if field.required else "optional")
     parts += ["default " + (field.default or "empty")] if field.default is not None else []
-    return " ".join(filter(None, ["; ".join(parts) + ".", sentence(field.node.documentation()), sentence(field.help)]))
+    return comment("; ".join(parts), field.node.documentation(), field.help)
 
 
 def flat_schema(schema):
@@ -81,7 +78,6 @@ def array(head, rows):
 
 class Emitter:
     """Writes header and source of one schema."""
-
     def __init__(self, namespace, library, schema, schemas):
         self.namespace, self.library, self.schema = namespace, library, schema
         self.usages = {}
@@ -102,8 +98,7 @@ class Emitter:
     def operations(self, entry):
         """Comment, declarations and bodies, group by group."""
         if entry.choice:
-            yield ("Number of the alternative that is set, from 0 in the order below; -1: none. Its name is a null "
-                   "string for a number that does not exist.",
+            yield (comment("Number of the alternative that is set, from 0 in the order below, and its name; -1: none"),
                    [[text.format(n=entry.name) for text in pair] for pair in OPERATIONS["choice"]])
         for i, field in enumerate(entry.fields):
             cell = CELLS.get(field.kind, "Integer")
@@ -120,30 +115,32 @@ class Emitter:
                                        for kind in kinds + ["enumeration"] * enumeration for pair in OPERATIONS[kind]]
 
     def header(self):
-        path = "#include <%s/%%s.h>" % self.library
+        path, names = "#include <%s/%%s.h>" % self.library, [entry.name for entry in self.schema.classes]
         lines = ["// Made from %s at build time." % self.schema.file, "#pragma once", "", "#include <QStringList>",
                  "#include <QVector>", "#include <reportlayer/irgobject.h>", path % (self.library + "_export")]
         lines += [path % part.stem for part in self.schema.included] + ["", "namespace %s {" % self.namespace, ""]
+        lines += ["class %s;" % name for name in names]
         export = self.library.upper() + "_EXPORT "
         for entry in self.schema.classes:
             lines += self.declaration(entry, export)
         if self.sets:
-            lines += comment("All parameter sets in the order of the schema, and one of them; null: there is none.")
+            lines += [""] + comment("All parameter sets in schema order, and one of them; null: there is none")
             lines += [export + head + ";" for head, _ in OPERATIONS["sets"]]
-        return lines + ["} // namespace %s" % self.namespace] + [
-            "Q_DECLARE_TYPEINFO(%s::%s, Q_MOVABLE_TYPE);" % (self.namespace, entry.name)
-            for entry in self.schema.classes]
+        return lines + ["", "} // namespace %s" % self.namespace] + [
+            "Q_DECLARE_TYPEINFO(%s::%s, Q_MOVABLE_TYPE);" % (self.namespace, name) for name in names]
 
     def declaration(self, entry, export):
-        lines = comment(sentence(entry.node.documentation()) or "Element <%s>." % self.names(entry)[0])
-        lines += ["class %s%s : public REPORTGENERATOR::IRGObject" % (export, entry.name), "{", "public:"]
+        members = []
         for field in entry.fields:
             if field.kind == "Enumeration":
-                lines += wrap("enum %s : int { %s };" % (field.name, ", ".join(field.enumerators())), 108)
-        lines += [entry.name + "();", "static const REPORTGENERATOR::ElementTable& fieldTable();"]
+                members += wrap("enum %s : int { %s };" % (field.name, ", ".join(field.enumerators())), 106,
+                                subsequent_indent="    ")
+        members += [entry.name + "();", "static const REPORTGENERATOR::ElementTable& fieldTable();"]
         for text, operations in self.operations(entry):
-            lines += [""] + comment(text) + [head.replace("@", "") + ";" for head, _ in operations]
-        return lines + ["};", ""]
+            members += [""] + text + [head.replace("@", "") + ";" for head, _ in operations]
+        return ["", *comment(entry.node.documentation() or "Element <%s>." % self.names(entry)[0]),
+                "class %s%s : public REPORTGENERATOR::IRGObject" % (export, entry.name), "{", "public:",
+                *(member and "    " + member for member in members), "};"]
 
     def source(self):
         schema = self.schema
@@ -156,8 +153,8 @@ class Emitter:
         lines += array("const char* const SCHEMA_LINES[]", map(literal, flat_schema(schema)))
         lines += ["constexpr SchemaText SCHEMA = {%s, SCHEMA_LINES, std::size(SCHEMA_LINES), %s};"
                   % (literal(schema.file), literal(schema.version))]
-        for entry in schema.simples:
-            lines += self.enumeration(entry) if entry.values else []
+        for entry in (entry for entry in schema.simples if entry.values):
+            lines += self.enumeration(entry)
         for entry in schema.classes:
             lines += self.table(entry)
         rows = ['{%s, "%s", %s, &%s}' % (literal(name), self.namespace, self.translated(label), entry.name)
@@ -175,7 +172,7 @@ class Emitter:
 
     def enumeration(self, entry):
         lines = array("const char* const %s_NAMES[]" % entry.name, [literal(name) for name, _ in entry.values])
-        lines += array("const char* const %s_TEXTS[]" % entry.name, [self.translated(text) for _, text in entry.values])
+        lines += array("const char* const %s_TEXTS[]" % entry.name, [self.translated(gui) for _, gui in entry.values])
         return lines + ['constexpr EnumTable {0} = {{"{1}", {0}_NAMES, {0}_TEXTS, {2}}};'.format(
             entry.name, self.namespace, len(entry.values))]
 
@@ -183,18 +180,18 @@ class Emitter:
         lines = array("const char* const %s_ACCEPTED[]" % entry.name, map(literal, self.names(entry)))
         if entry.fields:
             lines += array("constexpr Field %s_FIELDS[]" % entry.name, map(self.row, entry.fields))
-        fields = "{0}_FIELDS, {1}, requiredFieldsOf({0}_FIELDS)" if entry.fields else "nullptr, 0, 0"
-        return lines + [('constexpr ElementTable {0} = {{"{0}", {0}_ACCEPTED[0], {0}_ACCEPTED, std::size({0}_ACCEPTED), '
-                         + fields + ', {2}, {3}, &SCHEMA, &createElement<{4}::{0}>, &sharedElement<{4}::{0}>}};').format(
-                             entry.name, len(entry.fields), str(entry.choice).lower(),
-                             str(entry.name in self.roots).lower(), self.namespace)]
+        text = "{0}_FIELDS, {1}, requiredFieldsOf({0}_FIELDS)" if entry.fields else "nullptr, 0, 0"
+        text = ('constexpr ElementTable {0} = {{"{0}", {0}_ACCEPTED[0], {0}_ACCEPTED, std::size({0}_ACCEPTED), ' + text
+                + ", {2}, {3}, &SCHEMA, &createElement<{4}::{0}>, &sharedElement<{4}::{0}>}};")
+        flags = [str(flag).lower() for flag in (entry.choice, entry.name in self.roots)]
+        return lines + [text.format(entry.name, len(entry.fields), *flags, self.namespace)]
 
     def row(self, field):
         """A field as a row of its class's table."""
         given = [(name, "true") for name in ("attribute", "list", "required") if getattr(field, name)]
         texts = (("label", self.translated), ("unit", literal), ("help", self.translated), ("default", literal))
-        given += [("context", '"%s"' % self.namespace)]
-        given += [(name + "Text", text(getattr(field, name))) for name, text in texts if getattr(field, name) is not None]
+        texts = ((name + "Text", write(getattr(field, name))) for name, write in texts)
+        given += [("context", '"%s"' % self.namespace)] + [text for text in texts if text[1] != "nullptr"]
         number = "Real" if field.kind in ("Float", "Double") else "Integer"
         given += [("default" + number, field.default_number)] if field.default is not None else []
         for limit in ("minimum", "maximum") if not field.complex else ():
@@ -203,8 +200,8 @@ class Emitter:
         if field.complex or field.kind == "Enumeration":
             given.append((field.kind.lower(), "&" + field.type.name))
         if field.list:
-            item = CPP_TYPES.get(field.kind, "%s::%s" % (self.namespace, field.type.name if field.complex else
-                                                         field.owner.name + "::" + field.name))
+            own = field.type.name if field.complex else field.owner.name + "::" + field.name
+            item = CPP_TYPES.get(field.kind, self.namespace + "::" + own)
             given.append(("listOperations", "&ListOf<%s>::OPERATIONS" % item))
         return 'Field("%s", FieldKind::%s)' % (field.name, field.kind) + "".join(
             ".with(&Field::%s, %s)" % pair for pair in given)
@@ -212,23 +209,20 @@ class Emitter:
 
 def main(arguments):
     options = argparse.ArgumentParser(description=__doc__)
-    for name in ("--namespace", "--library", "--output"):
-        options.add_argument(name, required=True)
-    options.add_argument("schemas", nargs="+")
+    for name, how in (("--namespace", {}), ("--library", {}), ("--output", {}), ("schemas", {"nargs": "+"})):
+        options.add_argument(name, **(how or {"required": True}))
     given = options.parse_args(arguments)
     try:
         schemas = schemamodel.read(given.schemas)
     except schemamodel.SchemaError as error:
-        print(error, file=sys.stderr)
-        return 1
+        sys.exit(str(error))
     os.makedirs(given.output, exist_ok=True)
     for schema in schemas:
         emitter = Emitter(given.namespace, given.library, schema, schemas)
         for ending, lines in ((".h", emitter.header()), (".cpp", emitter.source())):
             with open(os.path.join(given.output, schema.stem + ending), "w", encoding="utf-8") as file:
                 file.write("\n".join(lines) + "\n")
-    return 0
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    main(sys.argv[1:])

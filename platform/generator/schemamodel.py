@@ -9,29 +9,21 @@ JED = "urn:jobeditorve:field-tables"
 # Each construct that is known: its attributes and the constructs within it. Everything else is an error.
 KNOWN = {tag: (set(attributes.split()), set(children.split())) for tag, attributes, children in (
     ("xs:schema", "version elementFormDefault", "xs:annotation xs:include xs:element xs:complexType xs:simpleType"),
-    ("xs:include", "schemaLocation", ""),
-    ("xs:annotation", "", "xs:documentation xs:appinfo"),
-    ("xs:documentation", "", ""),
-    ("xs:appinfo", "", "jed:field jed:gui jed:parameterSet"),
-    ("jed:field", "label unit help default", ""),
-    ("jed:gui", "text", ""),
-    ("jed:parameterSet", "name label", ""),
+    ("xs:include", "schemaLocation", ""), ("xs:annotation", "", "xs:documentation xs:appinfo"),
+    ("xs:documentation", "", ""), ("xs:appinfo", "", "jed:field jed:gui jed:parameterSet"),
+    ("jed:field", "label unit help default", ""), ("jed:gui", "text", ""), ("jed:parameterSet", "name label", ""),
     ("xs:element", "name type minOccurs maxOccurs", "xs:annotation"),
     ("xs:complexType", "name", "xs:annotation xs:sequence xs:choice xs:attribute"),
-    ("xs:sequence", "", "xs:annotation xs:element"),
-    ("xs:choice", "", "xs:annotation xs:element"),
+    ("xs:sequence", "", "xs:annotation xs:element"), ("xs:choice", "", "xs:annotation xs:element"),
     ("xs:attribute", "name type use default", "xs:annotation"),
     ("xs:simpleType", "name", "xs:annotation xs:restriction"),
     ("xs:restriction", "base", "xs:enumeration xs:minInclusive xs:maxInclusive"),
-    ("xs:enumeration", "value", "xs:annotation"),
-    ("xs:minInclusive", "value", ""),
-    ("xs:maxInclusive", "value", ""))}
+    ("xs:enumeration", "value", "xs:annotation"), ("xs:minInclusive", "value", ""), ("xs:maxInclusive", "value", ""))}
 KINDS = {"xs:boolean": "Boolean", "xs:int": "Int", "xs:long": "Long", "xs:float": "Float", "xs:double": "Double",
          "xs:string": "String", "xs:dateTime": "DateTime"}
 INTEGER_LIMITS = {"Int": 2 ** 31, "Long": 2 ** 63}
 VALUES = {("minOccurs", "0"), ("minOccurs", "1"), ("maxOccurs", "1"), ("maxOccurs", "unbounded"),
           ("use", "optional"), ("use", "required"), ("elementFormDefault", "unqualified")}
-MOST_FIELDS = 64
 # What the base class of all elements offers, and words of C++ that could be the name of a class or an enumeration.
 BASE_OPERATIONS = set("""SetXmlString GetXmlString SetValidate GetValidate GetCheckLine GetCheckColumn GetCheckReason
     GetInitialVersionLoaded""".split())
@@ -44,21 +36,17 @@ KEYWORDS = set("""auto bool break case char class const continue default delete 
 class SchemaError(Exception):
     """A construct outside the subset, with the place where it stands."""
 
-    def __init__(self, node, reason):
-        super().__init__("%s:%d: %s" % (node.file, node.line, reason))
-
 
 def need(condition, node, reason, *values):
     if not condition:
-        raise SchemaError(node, reason % values)
+        raise SchemaError("%s:%d: %s" % (node.file, node.line, reason % values))
 
 
 class Node:
     """One element of a schema file."""
-
     def __init__(self, file, line, tag="", attributes=()):
         self.file, self.line, self.tag, self.attributes = file, line, tag, dict(attributes)
-        self.children, self.text = [], ""
+        self.children, self.texts = [], []
 
     def get(self, name, default=None):
         return self.attributes.get(name, default)
@@ -73,13 +61,12 @@ class Node:
         return found[0] if found else None
 
     def info(self, tag):
-        """The entries of that name in the element's xs:appinfo."""
-        return [entry for annotation in self.all("xs:annotation") for info in annotation.all("xs:appinfo")
-                for entry in info.all(tag)]
+        """The entries of that name in the element's annotation."""
+        return [entry for annotation in self.all("xs:annotation")
+                for part in [annotation] + annotation.all("xs:appinfo") for entry in part.all(tag)]
 
     def documentation(self):
-        return " ".join(" ".join(entry.text for annotation in self.all("xs:annotation")
-                                 for entry in annotation.all("xs:documentation")).split())
+        return " ".join(" ".join(text for entry in self.info("xs:documentation") for text in entry.texts).split())
 
     def needed(self, name):
         need(name in self.attributes, self, "%s without %s", self.tag, name)
@@ -110,28 +97,25 @@ def parse(path):
         stack[-1].children.append(node)
         stack.append(node)
 
-    def data(text):
-        need(not text.strip() or stack[-1].tag == "xs:documentation", Node(file, parser.CurrentLineNumber),
-             "text is not supported here")
-        stack[-1].text += text
+    def end(_):
+        node = stack.pop()
+        need(node.tag == "xs:documentation" or not "".join(node.texts).strip(), node, "%s holds a text", node.tag)
 
     parser.StartElementHandler = start
-    parser.EndElementHandler = lambda name: stack.pop()
-    parser.CharacterDataHandler = data
+    parser.EndElementHandler = end
+    parser.CharacterDataHandler = lambda text: stack[-1].texts.append(text)
     try:
         with open(path, "rb") as source:
             parser.ParseFile(source)
     except expat.ExpatError as error:
-        raise SchemaError(Node(file, error.lineno), expat.errors.messages[error.code]) from None
+        need(False, Node(file, error.lineno), "%s", expat.errors.messages[error.code])
     return stack[0].children[0]
 
 
 class Simple:
     """A simple type: built in, restricted in its range, or an enumeration."""
-
     def __init__(self, name, kind, node=None):
-        self.name, self.kind, self.node = name, kind, node
-        self.values, self.minimum, self.maximum = [], None, None
+        self.name, self.kind, self.node, self.values, self.minimum, self.maximum = name, kind, node, [], None, None
 
     @staticmethod
     def read(node):
@@ -151,7 +135,6 @@ class Simple:
                 result.values.append((text, gui[0].needed("text") if gui else text))
             else:
                 setattr(result, entry.tag[3:6] + "imum", result.number(entry, text))
-        need(restriction.children, restriction, "a restriction without content")
         need(None in (result.minimum, result.maximum) or float(result.minimum) <= float(result.maximum), restriction,
              "the minimum is above the maximum")
         result.kind = "Enumeration" if result.values else result.kind
@@ -179,7 +162,6 @@ class Simple:
 
 class Field:
     """One attribute or child element of a class."""
-
     def __init__(self, node, owner, types):
         self.node, self.name, self.owner, self.attribute = node, node.name(), owner, node.tag == "xs:attribute"
         need(node.needed("type") in types, node, "type %s is not known", node.get("type"))
@@ -215,7 +197,6 @@ class Field:
 
 class Class:
     """A complex type, and the class made of it."""
-
     def __init__(self, node):
         content = node.one("xs:sequence", "xs:choice")
         self.node, self.name, self.fields = node, node.name(), []
@@ -235,20 +216,18 @@ class Class:
                 need(operation not in taken, member, "%s of %s exists already", operation, self.name)
                 taken.add(operation)
             self.fields.append(field)
-        need(len(self.fields) <= MOST_FIELDS, self.node, "%s has more than %d fields", self.name, MOST_FIELDS)
+        need(len(self.fields) <= 64, self.node, "%s has more than 64 fields", self.name)
 
 
 class Schema:
-    """One schema file; its classes come to stand behind those that they use."""
-
+    """One schema file."""
     def __init__(self, path):
         self.node = parse(path)
-        self.file = self.node.file
+        self.file, self.included = self.node.file, []
         self.stem = os.path.splitext(self.file)[0]
         self.version, self.root = self.node.get("version"), self.node.one("xs:element")
         self.classes = [Class(node) for node in self.node.all("xs:complexType")]
         self.simples = [Simple.read(node) for node in self.node.all("xs:simpleType")]
-        self.included = []
 
     def include(self, schemas):
         for node in self.node.all("xs:include"):
@@ -267,20 +246,13 @@ class Schema:
             need(self.root.name() and isinstance(types.get(self.root.needed("type")), Class), self.root,
                  "the root must be of a complex type")
 
-    def sort_classes(self):
-        ordered = []
 
-        def visit(entry, user, users):
-            need(entry not in users, user, "type %s contains itself", entry.name)
-            for field in entry.fields if entry not in ordered else []:
-                if field.complex:
-                    visit(field.type, field.node, users + [entry])
-            if entry not in ordered:
-                ordered.append(entry)
-
-        for entry in self.classes:
-            visit(entry, entry.node, [])
-        self.classes = [entry for entry in ordered if entry in self.classes]
+def need_end(entry, user, users):
+    """No class may contain itself, directly or through others."""
+    need(entry not in users, user, "type %s contains itself", entry.name)
+    for field in entry.fields:
+        if field.complex:
+            need_end(field.type, field.node, users + [entry])
 
 
 def read(paths):
@@ -295,6 +267,6 @@ def read(paths):
     result = sorted(schemas.values(), key=lambda schema: len(schema.included))
     for schema in result:
         schema.read_classes(types)
-    for schema in result:
-        schema.sort_classes()
+    for entry in (entry for schema in result for entry in schema.classes):
+        need_end(entry, entry.node, [])
     return result
