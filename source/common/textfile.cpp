@@ -26,7 +26,8 @@ std::optional<QString> readTextFile(const QString& path)
         if (bytes.size() > MAX_BYTES)
             return std::nullopt;
     }
-    return QString::fromUtf8(bytes);
+    // With the size, since a NUL would end the text otherwise.
+    return QString::fromUtf8(bytes.constData(), bytes.size());
 }
 
 } // namespace JEDVEPLUGIN
