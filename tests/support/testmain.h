@@ -3,24 +3,34 @@
 #include <QApplication>
 #include <QtTest>
 
+#include <memory>
+
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
 #endif
 
 namespace JedTest {
 
-/// Runs a test class under a QApplication. What Qt's platform plug-ins and font libraries allocate once per process and
+/// Makes the application object of a test. What Qt's platform plug-ins and font libraries allocate once per process and
 /// never free is kept out of the leak report; everything that the test itself allocates stays in it.
-template <typename TestClass>
-int run(int argc, char** argv)
+/// \param argc  must live as long as the application
+inline std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 {
 #if defined(__SANITIZE_ADDRESS__)
     __lsan_disable();
 #endif
-    QApplication application(argc, argv);
+    auto application = std::make_unique<QApplication>(argc, argv);
 #if defined(__SANITIZE_ADDRESS__)
     __lsan_enable();
 #endif
+    return application;
+}
+
+/// Runs a test class under a QApplication.
+template <typename TestClass>
+int run(int argc, char** argv)
+{
+    const auto application = makeApplication(argc, argv);
     TestClass test;
     QTEST_SET_MAIN_SOURCE_PATH
     return QTest::qExec(&test, argc, argv);
@@ -29,8 +39,8 @@ int run(int argc, char** argv)
 } // namespace JedTest
 
 /// Replaces QTEST_MAIN for tests that need widgets.
-#define JED_TEST_MAIN(TestClass)                                                                                  \
-    int main(int argc, char** argv)                                                                               \
-    {                                                                                                             \
-        return JedTest::run<TestClass>(argc, argv);                                                               \
+#define JED_TEST_MAIN(TestClass)                                                                             \
+    int main(int argc, char** argv)                                                                          \
+    {                                                                                                        \
+        return JedTest::run<TestClass>(argc, argv);                                                          \
     }

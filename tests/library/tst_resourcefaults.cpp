@@ -1,0 +1,127 @@
+#include "resourcedescription.h"
+
+#include <QTemporaryDir>
+#include <quilappstartup/cfgcenter.h>
+#include <reportlayer/irgobject.h>
+#include <reportlayer/rgexception.h>
+#include <support/tracerecorder.h>
+#include <zubase/zuexception.h>
+
+#include <dlfcn.h>
+
+// The program's own definitions of three platform operations stand in front of those of the platform's libraries:
+// each throws when it is told to and otherwise runs the real one.
+
+using JEDVEPLUGIN::ResourceDescription;
+using REPORTGENERATOR::IRGObject;
+using REPORTGENERATOR::RGException;
+
+namespace {
+
+bool s_configurationThrows = false;
+bool s_readingThrows = false;
+bool s_checkingThrows = false;
+
+template <class Function>
+Function* realOne(const char* symbol)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, symbol));
+}
+
+QString text(const QString& name)
+{
+    return QStringLiteral(
+               "<TunerProperties name='%1' type='HT720' baseresource='b' quantity='1' version='1.2'/>")
+        .arg(name);
+}
+
+} // namespace
+
+Cfg* CfgCenter::CreateCfg(const QString& name, int view, const QString& variant)
+{
+    if (s_configurationThrows)
+        throw ZuException(QStringLiteral("no %1 for %2").arg(name, QString::number(view)));
+    using Real = Cfg*(CfgCenter*, const QString&, int, const QString&);
+    return realOne<Real>("_ZN9CfgCenter9CreateCfgERK7QStringiS2_")(this, name, view, variant);
+}
+
+bool IRGObject::SetXmlString(const QString& xml, bool whole)
+{
+    if (s_readingThrows)
+        throw RGException(QStringLiteral("no reading"));
+    using Real = bool(IRGObject*, const QString&, bool);
+    return realOne<Real>("_ZN15REPORTGENERATOR9IRGObject12SetXmlStringERK7QStringb")(this, xml, whole);
+}
+
+bool IRGObject::Check()
+{
+    if (s_checkingThrows)
+        throw ZuException(QStringLiteral("no checking"));
+    using Real = bool(IRGObject*);
+    return realOne<Real>("_ZN15REPORTGENERATOR9IRGObject5CheckEv")(this);
+}
+
+class TstResourceFaults : public QObject
+{
+    Q_OBJECT
+private slots:
+    void cleanup();
+    void anExceptionWhileReadingLeavesAnInvalidDescription();
+    void anExceptionWhileCheckingLeavesAnInvalidDescription();
+    void anExceptionOfTheConfigurationLeavesTheListEmpty();
+
+private:
+    JedTest::TraceRecorder m_traces;
+};
+
+void TstResourceFaults::cleanup()
+{
+    s_configurationThrows = false;
+    s_readingThrows = false;
+    s_checkingThrows = false;
+}
+
+void TstResourceFaults::anExceptionWhileReadingLeavesAnInvalidDescription()
+{
+    s_readingThrows = true;
+    const ResourceDescription description(text("a"));
+    s_readingThrows = false;
+
+    QVERIFY(!description.isValid());
+    QVERIFY(description.getVersion().isNull());
+    QVERIFY(m_traces.take().join('\n').contains("unable to read Tuner Properties: no reading"));
+    QVERIFY(ResourceDescription(text("a")).isValid());
+}
+
+void TstResourceFaults::anExceptionWhileCheckingLeavesAnInvalidDescription()
+{
+    s_checkingThrows = true;
+    const ResourceDescription description(text("a"));
+
+    QVERIFY(!description.isValid());
+    QVERIFY(description.getName().isNull());
+    QCOMPARE(description.getVersion(), QStringLiteral("1.2"));
+    QVERIFY(m_traces.take().join('\n').contains("unable to read Tuner Properties: no checking"));
+}
+
+void TstResourceFaults::anExceptionOfTheConfigurationLeavesTheListEmpty()
+{
+    QTemporaryDir installation;
+    QFile file(installation.filePath("installation.ini"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[JobManagement]\nTemplateFolder = .\n");
+    file.close();
+    CfgCenter::Instance()->SetInstallation(installation.path());
+
+    s_configurationThrows = true;
+    QVERIFY(ResourceDescription::readAllResourceFiles().isEmpty());
+    QVERIFY(m_traces.take().join('\n').contains("no folder of Tuner Property Files: no JobManagement for 4"));
+
+    // That was the one time.
+    s_configurationThrows = false;
+    QVERIFY(ResourceDescription::readAllResourceFiles().isEmpty());
+    QCOMPARE(m_traces.take(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TstResourceFaults)
+#include "tst_resourcefaults.moc"
