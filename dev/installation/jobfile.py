@@ -49,13 +49,13 @@ def parameter_set(schema, receiver, set_name, values, changes):
     content = {}
     for path, field, value in values_of(schema, receiver, set_name, values):
         groups = path.split(".")
-        if groups[0] in NOT_TAKEN.get(set_name, ()):
+        single = changes.pop(f"{set_name}/{path}", initial(receiver, field, value))
+        if groups[0] in NOT_TAKEN.get(set_name, ()) or single == "" and field.type.name == "xs:dateTime":
             continue
         place = content
         for group in groups[:-1]:
             place = place.setdefault(group, {})
-        change = changes.pop(f"{set_name}/{path}", None)
-        place[groups[-1]] = initial(receiver, field, value) if change is None else change
+        place[groups[-1]] = single
     return content
 
 
