@@ -37,7 +37,7 @@ bool Node::AddChild(ValueBase* child, const QString& key)
     if (m_isEnding || child == nullptr || child->isGoing() || child->m_parent != nullptr ||
         child->isTreeRoot())
         return false;
-    if (key.contains(QLatin1Char('/')) || (child->m_isNode && isInside(child)))
+    if ((!key.isEmpty() && key.contains(QLatin1Char('/'))) || (child->m_isNode && isInside(child)))
         return false;
     const PathWatch watch(child);
     child->m_key = key;
