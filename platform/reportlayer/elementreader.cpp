@@ -2,7 +2,6 @@
 #include "elementreader_p.h"
 #include "lexical_p.h"
 #include "textbounds_p.h"
-#include <algorithm>
 #include <QCoreApplication>
 #include <QXmlStreamReader>
 
@@ -14,8 +13,6 @@ const int MAXIMUM_PROBLEMS = 100;
 const int LONGEST_QUOTE = 60; // characters of a wrong value in a message
 const char* const TOO_DEEP =
     QT_TRANSLATE_NOOP("ReportLayer", "Elements are nested more than 256 levels deep");
-const char* const DAMAGED_NAME = QT_TRANSLATE_NOOP(
-    "ReportLayer", "A name holds the replacement character of bytes that could not be decoded");
 
 // Where reading stands within one element.
 struct Place
@@ -53,7 +50,6 @@ private:
     bool keepUnknownElement(IRGObject& element, const Place& place);
     void keep(IRGObject& element, ForeignPart::Kind kind, const Place& place, const QString& text);
     bool store(IRGObject& element, int field, const QStringRef& text);
-    bool hasDamagedName() const;
     QString slice(int begin) const;
     void reportValue(const Field& field, const QString& text);
     void report(const QString& reason);
@@ -69,7 +65,6 @@ private:
     int m_end = 0;
     int m_level = 0;
     bool m_followsTable = true;
-    const bool m_damaged; // somewhere in the text a character could not be decoded
 };
 
 QString withPlainLineEnds(QString text)
@@ -113,7 +108,6 @@ Reader::Reader(const QString& text, const Prolog& prolog)
     , m_prolog(prolog)
     , m_reader(text)
     , m_end(prolog.end)
-    , m_damaged(text.contains(QChar(QChar::ReplacementCharacter)))
 {
     m_reader.setNamespaceProcessing(false);
 }
@@ -124,8 +118,6 @@ bool Reader::readRoot(IRGObject& root, bool whole)
         m_reader.readNext();
     if (m_reader.hasError())
         return fail(m_reader.errorString());
-    if (m_damaged && hasDamagedName())
-        return fail(message(DAMAGED_NAME));
     const QString name = m_reader.qualifiedName().toString();
     if (!root.table().accepts(name))
         return fail(message(QT_TRANSLATE_NOOP("ReportLayer", "The root is <%1> instead of <%2>"))
@@ -162,27 +154,7 @@ QXmlStreamReader::TokenType Reader::next()
     // Behind text the reader has already looked at the tag that follows.
     if (type == QXmlStreamReader::Characters && m_text.at(m_end - 1) == QLatin1Char('<'))
         --m_end;
-    if (m_damaged && hasDamagedName()) {
-        m_reader.raiseError(message(DAMAGED_NAME));
-        return QXmlStreamReader::Invalid;
-    }
     return type;
-}
-
-// Qt's reader takes the replacement character for a letter.
-bool Reader::hasDamagedName() const
-{
-    const QChar replacement(QChar::ReplacementCharacter);
-    if (m_reader.isProcessingInstruction())
-        return m_reader.processingInstructionTarget().contains(replacement);
-    if (!m_reader.isStartElement())
-        return false;
-    const QXmlStreamAttributes attributes = m_reader.attributes();
-    return m_reader.qualifiedName().contains(replacement) ||
-           std::any_of(attributes.begin(), attributes.end(),
-                       [replacement](const QXmlStreamAttribute& attribute) {
-                           return attribute.qualifiedName().contains(replacement);
-                       });
 }
 
 bool Reader::readElement(IRGObject& element)

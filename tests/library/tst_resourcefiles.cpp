@@ -313,7 +313,7 @@ void TstResourceFiles::decodesTheFilesAsUtf8()
     write("Templates/2.xml", "\xEF\xBB\xBF" + text);
     write("Templates/3.xml", "<?xml version='1.0' encoding='ISO-8859-1'?>\r\n" + text);
     write("Templates/4.xml", QByteArray(text).replace("K\xC3\xBC", "K\xFC"));
-    write("Templates/5.xml", QByteArray(text).replace("name=", "na\xFCme="));
+    write("Templates/5.xml", QByteArray(text).replace("<Tuner", "<T\xFCner"));
     write("Templates/6.xml", text + '\0');
 
     QCOMPARE(run(), traces("1.xml") + traces("2.xml") + traces("3.xml") + traces("4.xml") +
