@@ -17,6 +17,7 @@ private slots:
     void itemSettingOfUnknownNameIsReported();
     void scanDetailOfAnItem_data();
     void scanDetailOfAnItem();
+    void unreadableScanCountsAsEmpty();
 };
 
 void TstJobXmlHandlerItems::transmitterItem_data()
@@ -155,6 +156,17 @@ void TstJobXmlHandlerItems::scanDetailOfAnItem()
     others["Detail"] = before["Detail"];
     QCOMPARE(others, before);
     QCOMPARE(recorder.take(), QStringList());
+}
+
+void TstJobXmlHandlerItems::unreadableScanCountsAsEmpty()
+{
+    TransmitterItem item;
+    item.GetDetail().SetThreshold(11);
+    item.GetDetail().SetDwellTime(12);
+    JobXmlHandler::getInstance()->addTransmitterListSetting("ScanSettings", "<Scan_Settings>", item);
+    QCOMPARE(item.GetDetail().GetThreshold(), JobXml::Detail().GetThreshold());
+    QVERIFY(item.GetDetail().IsThresholdSet());
+    QCOMPARE(item.GetDetail().GetDwellTime(), 12);
 }
 
 QTEST_GUILESS_MAIN(TstJobXmlHandlerItems)
