@@ -69,7 +69,8 @@ public:
     void addParameterSetObject(const QString& name, const QString& xml, JobXml::Settings& settings);
     /// Loads "ADemSettings", "DF_Settings", "TunerSettings" or "FFTSettings" into an item of a transmitter list;
     /// of "ScanSettings" it takes the threshold, and dwell, signal and measurement time as far as they are set;
-    /// a scan text that cannot be read counts as an empty element. An unknown name is traced and changes nothing; an empty text and any other set change nothing.
+    /// a scan text that cannot be read counts as an empty element. An unknown name is traced and changes nothing; an
+    /// empty text and any other set change nothing.
     void addTransmitterListSetting(const QString& name, const QString& xml, JobXml::TransmitterItem& item);
 
 private:
