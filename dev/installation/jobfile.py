@@ -75,8 +75,12 @@ def members(schema, type_name, content, indent):
 def element(schema, field, value, indent):
     if isinstance(field.type, SimpleType):
         plain = escape(field.default if value is None else number(value))
-        yield f"{indent}<{field.name}>{plain}</{field.name}>"
-    else:
+        yield f"{indent}<{field.name}>{plain}</{field.name}>" if plain else f"{indent}<{field.name}/>"
+        return
+    content = list(members(schema, field.type, value or {}, indent + "  "))
+    if content:
         yield f"{indent}<{field.name}>"
-        yield from members(schema, field.type, value or {}, indent + "  ")
+        yield from content
         yield f"{indent}</{field.name}>"
+    else:
+        yield f"{indent}<{field.name}/>"

@@ -1,7 +1,7 @@
 """One tuner property file as text."""
 from xml.sax.saxutils import quoteattr
 
-HEAD = '<?xml version="1.0" encoding="UTF-8"?><!-- Made by dev/make-installation -->\n'
+HEAD = '<?xml version="1.0" encoding="UTF-8"?>\n<!-- Made by dev/make-installation -->\n'
 PLAIN = {"boolean": "ValueBoolean", "int": "ValueInt", "long": "ValueInt64", "double": "ValueFloat",
          "string": "ValueString"}
 NUMERIC = {"int": "ValueNumericInt", "long": "ValueNumericInt64", "double": "ValueNumericFloat"}
@@ -12,7 +12,7 @@ RANGES = {
     "LongTimeType": (0, 31622400000, 1000), "LevelType": (-20, 120, 0.5), "DecibelType": (-30, 130, 0.5),
     "AttenuationType": (0, 40, 5), "PercentType": (0, 100, 1), "AzimuthType": (0, 360, 0.5),
     "AngleType": (-90, 90, 0.5), "CountType": (0, 1000, 1), "ChannelCountType": (0, 32, 1), "PriorityType": (1, 10, 1),
-    "SymbolRateType": (10, 100000, 0), "HopRateType": (0, 2000, 1), "RatioType": (1, 20, 0.5),
+    "SymbolRateType": (10, 90000, 0), "HopRateType": (0, 2000, 1), "RatioType": (1, 20, 0.5),
     "ProbabilityType": (0, 0.5, 0), "CorrectionType": (-20, 20, 0.125), "xs:long": (1048576, 1099511627776, 1048576),
 }
 

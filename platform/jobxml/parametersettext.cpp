@@ -34,7 +34,7 @@ QString placeAndReason(int line, int column, const QString& reason)
 
 /// The element of the node's set with the content of the text; null, with the failure in the report, if there is no
 /// such set or it does not read the text.
-std::unique_ptr<IRGObject> makeElement(const Node& node, const QString& text, Report* report)
+std::unique_ptr<IRGObject> makeElement(const ::Node& node, const QString& text, Report* report)
 {
     const ParameterSet* set = findParameterSet(node.GetId());
     if (!set) {
@@ -56,7 +56,7 @@ std::unique_ptr<IRGObject> makeElement(const Node& node, const QString& text, Re
 /// Calls with each value of the node that stands for a field, its path and the field; keeps in the report which
 /// values and fields have no counterpart.
 template <class Callback>
-void forEachPair(const Node& node, const ElementTable& table, Report* report, Callback callback)
+void forEachPair(const ::Node& node, const ElementTable& table, Report* report, Callback callback)
 {
     const QStringList paths = REPORTGENERATOR::fieldPaths(table);
     QSet<QString> pathsWithoutValue(paths.begin(), paths.end());
@@ -71,8 +71,8 @@ void forEachPair(const Node& node, const ElementTable& table, Report* report, Ca
         pathsWithoutValue.remove(path);
         callback(*value, path, *REPORTGENERATOR::findField(table, path));
     }
-    const QVector<Node*> childNodes = node.GetChildNodes();
-    for (const Node* child : childNodes)
+    const QVector<::Node*> childNodes = node.GetChildNodes();
+    for (const ::Node* child : childNodes)
         report->valuesWithoutField << child->GetId();
     for (const QString& path : paths) {
         if (pathsWithoutValue.contains(path))
@@ -108,7 +108,16 @@ QString textOf(const ValueBase& value, const Field& field)
     return value.GetText();
 }
 
-Transfer writeSingle(IRGObject& element, const QString& path, const Field& field, const ValueBase& value)
+/// What the field has to say, or its default.
+QString textOf(const IRGObject& element, const QString& path, const Field& field)
+{
+    if (field.kind == FieldKind::Float || field.kind == FieldKind::Double)
+        return numberText(REPORTGENERATOR::fieldValue(element, path).toDouble());
+    return REPORTGENERATOR::fieldText(element, path);
+}
+
+Transfer writeSingle(IRGObject& element, const QString& path, const Field& field, const ValueBase& value,
+                     bool keepUnset)
 {
     const auto* selection = dynamic_cast<const ValueSelection*>(&value);
     if (selection && !selection->GetCurrentItem())
@@ -118,16 +127,20 @@ Transfer writeSingle(IRGObject& element, const QString& path, const Field& field
         REPORTGENERATOR::resetField(element, path);
         return Transfer::Done;
     }
+    if (keepUnset && !REPORTGENERATOR::isFieldSet(element, path) && text == textOf(element, path, field))
+        return Transfer::Done;
     return REPORTGENERATOR::setFieldText(element, path, text) ? Transfer::Done : Transfer::Refused;
 }
 
-Transfer writeField(IRGObject& element, const QString& path, const Field& field, const ValueBase& value)
+/// \param keepUnset  a field that is not set stays so while the value is its default
+Transfer writeField(IRGObject& element, const QString& path, const Field& field, const ValueBase& value,
+                    bool keepUnset)
 {
     const auto* list = dynamic_cast<const StringList*>(&value);
     if (field.list != (list != nullptr))
         return Transfer::Refused;
     if (!list)
-        return writeSingle(element, path, field, value);
+        return writeSingle(element, path, field, value, keepUnset);
     return REPORTGENERATOR::setFieldTexts(element, path, list->GetItems().toList()) ? Transfer::Done
                                                                                     : Transfer::Refused;
 }
@@ -168,9 +181,7 @@ Transfer readField(ValueBase& value, const IRGObject& element, const QString& pa
         list->SetItems(REPORTGENERATOR::fieldTexts(element, path).toVector());
         return Transfer::Done;
     }
-    const bool isReal = field.kind == FieldKind::Float || field.kind == FieldKind::Double;
-    const QString text = isReal ? numberText(REPORTGENERATOR::fieldValue(element, path).toDouble())
-                                : REPORTGENERATOR::fieldText(element, path);
+    const QString text = textOf(element, path, field);
     const bool hasNothing = text.isEmpty() && !isText(field);
     if (hasNothing && !dynamic_cast<ValueString*>(&value))
         return Transfer::Done;
@@ -185,7 +196,7 @@ bool ParameterSetText::Report::isClean() const
            problemsOfText.isEmpty() && failure.isEmpty();
 }
 
-QString ParameterSetText::toText(const Node& node, const QString& base, Report* report)
+QString ParameterSetText::toText(const ::Node& node, const QString& base, Report* report)
 {
     Report own;
     const auto finish = [&](const QString& text) {
@@ -200,7 +211,7 @@ QString ParameterSetText::toText(const Node& node, const QString& base, Report* 
     if (!element)
         return finish(QString());
     forEachPair(node, element->table(), &own, [&](ValueBase& value, const QString& path, const Field& field) {
-        if (writeField(*element, path, field, value) == Transfer::Done)
+        if (writeField(*element, path, field, value, !base.isEmpty()) == Transfer::Done)
             return;
         REPORTGENERATOR::resetField(*element, path);
         own.textsNotConverted << path;
@@ -208,7 +219,7 @@ QString ParameterSetText::toText(const Node& node, const QString& base, Report* 
     return finish(element->GetXmlString());
 }
 
-bool ParameterSetText::fromText(Node& node, const QString& xml, Report* report)
+bool ParameterSetText::fromText(::Node& node, const QString& xml, Report* report)
 {
     Report own;
     const auto element = makeElement(node, xml, &own);

@@ -49,10 +49,11 @@ public:
     /// The set as the node has it: one element, with all that a valid one must have. Every value is written, also for
     /// optional fields, except that an empty text leaves a field unset that is not a text, and so does a value that
     /// does not convert, such as a selection without a current item.
-    /// \param base    text of the same set that gives what the node has no value for; may be empty
+    /// \param base    text of the same set that gives what the node has no value for, and which optional fields stay
+    ///                unset while their value is the default; may be empty
     /// \param report  may be null; replaced
     /// \return a null string if the node's id is no parameter set or \p base is no text of that set
-    static QString toText(const Node& node, const QString& base = QString(), Report* report = nullptr);
+    static QString toText(const ::Node& node, const QString& base = QString(), Report* report = nullptr);
 
     /// Sets the node's values from the text; their observers are told. A value whose field the text does not set takes
     /// the field's default, a list becomes empty; an empty text sets no field. A value that does not take the text, or
@@ -60,7 +61,7 @@ public:
     /// text to toText() as base.
     /// \param report  may be null; replaced
     /// \return false, with the node as it was, if its id is no parameter set or the text is no text of that set
-    static bool fromText(Node& node, const QString& xml, Report* report = nullptr);
+    static bool fromText(::Node& node, const QString& xml, Report* report = nullptr);
 
     /// The paths that a value of this set can have, in the order of the set; empty for an unknown name.
     static QStringList fieldPaths(const QString& parameterSetName);

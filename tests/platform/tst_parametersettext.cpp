@@ -35,6 +35,8 @@ private slots:
     void numberOutsideTheFieldsRange();
     void baseKeepsWhatTheNodeHasNoValueFor();
     void baseIsOverwrittenByValues();
+    void baseKeepsDefaultsUnset_data();
+    void baseKeepsDefaultsUnset();
     void brokenBase();
     void nodeWithoutValuesGivesAValidSet();
     void namesAreEscaped();
@@ -388,6 +390,25 @@ void TstParameterSetText::baseIsOverwrittenByValues()
     QVERIFY(!text.contains("Keyword"));
     QVERIFY(!text.contains(">x<"));
     QVERIFY(text.contains("<FileNamePattern"));
+}
+
+void TstParameterSetText::baseKeepsDefaultsUnset_data()
+{
+    addSets();
+}
+
+void TstParameterSetText::baseKeepsDefaultsUnset()
+{
+    QFETCH(QString, set);
+    const auto node = nodeForEveryField(set, true);
+    // Only what is required.
+    const QString base = ParameterSetText::toText(*makeNode(set));
+
+    QVERIFY(ParameterSetText::fromText(*node, base));
+    QCOMPARE(ParameterSetText::toText(*node, base), base);
+
+    // Without a base everything is said.
+    QVERIFY(ParameterSetText::toText(*node).count('\n') > base.count('\n'));
 }
 
 void TstParameterSetText::brokenBase()
