@@ -5,6 +5,7 @@
 
 #include <zubase/errorhandler.h>
 #include <zubase/trace.h>
+#include <zubase/zuexception.h>
 
 #include <QDir>
 
@@ -14,6 +15,12 @@ const char* const SOURCE_FILE = "cfgcenter";
 const QLatin1String COMPONENT_FOLDER_KEY("ComponentFolder");
 
 const QLatin1String PATH_KEY_ENDINGS[] = {QLatin1String("Dir"), QLatin1String("Folder")};
+
+void traceProblem(const QString& problem)
+{
+    if ((ErrorHandler::Instance()->GetTraceMask() & ErrorHandler::TRACE_ERRORS) != 0)
+        _Q_Trace(problem, SOURCE_FILE, __LINE__);
+}
 
 bool isPathKey(const QString& key)
 {
@@ -111,7 +118,12 @@ QStringList CfgCenter::GetComponentFolders()
 IDllInstance* CfgCenter::CreateDllInstanceByFileName(const QString& fileName, const QString& instanceName,
                                                      bool, bool)
 {
-    return m_dllInstances->create(fileName, instanceName, GetComponentFolders());
+    try {
+        return m_dllInstances->create(fileName, instanceName, GetComponentFolders());
+    } catch (const ZuException& failure) {
+        traceProblem(failure.GetErrorReason());
+        throw;
+    }
 }
 
 IDllInstance* CfgCenter::GetDllInstanceByFileName(const QString& fileName, const QString& instanceName) const
@@ -132,10 +144,8 @@ const IniFile& CfgCenter::iniFile()
     m_iniFile = m_readFolder.isEmpty()
                     ? std::make_unique<IniFile>()
                     : std::make_unique<IniFile>(QDir(m_readFolder).filePath(QLatin1String(INI_FILE_NAME)));
-    if ((ErrorHandler::Instance()->GetTraceMask() & ErrorHandler::TRACE_ERRORS) != 0) {
-        for (const QString& problem : m_iniFile->problems())
-            _Q_Trace(problem, SOURCE_FILE, __LINE__);
-    }
+    for (const QString& problem : m_iniFile->problems())
+        traceProblem(problem);
     return *m_iniFile;
 }
 

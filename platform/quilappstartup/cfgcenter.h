@@ -65,8 +65,8 @@ public:
 
     /// Makes a new instance out of a component library, which is examined before any of its code runs and
     /// stays loaded until the process ends. The two last arguments are start-up options of an installation's
-    /// own edition; here they change nothing. Throws ZuException, its reason being what is wrong and what to
-    /// do.
+    /// own edition; here they change nothing. Throws ZuException, its reason, which is traced too, being what
+    /// is wrong and what to do.
     /// \param fileName      "Name.dll" on every system, without a folder
     /// \param instanceName  by which GetDllInstanceByFileName() finds it, usually empty
     /// \return never null; the centre's, to be released by DestroyDllInstanceByPointer()

@@ -1,6 +1,7 @@
 #include "components/testcomponent.h"
 
 #include <quilappstartup/cfgcenter.h>
+#include <support/tracerecorder.h>
 #include <zubase/zuexception.h>
 
 #include <QDir>
@@ -21,6 +22,7 @@ private slots:
     void strangersAreNotDestroyed();
     void whatCannotBeUsedIsAnException_data();
     void whatCannotBeUsedIsAnException();
+    void failureIsTracedOnlyIfAskedFor();
     void failureLeavesWhatThereIs();
 
 private:
@@ -213,13 +215,27 @@ void TstComponents::whatCannotBeUsedIsAnException()
     QFETCH(QString, fileName);
     QFETCH(QString, instanceName);
     QFETCH(QString, reason);
+    JedTest::TraceRecorder traces;
     const QString told = failureOf(fileName, instanceName);
     QVERIFY2(told.startsWith(reason), qPrintable(told));
+    const QStringList traced = traces.take();
+    QCOMPARE(traced.size(), 1);
+    QVERIFY2(traced.first().startsWith("cfgcenter:"), qPrintable(traced.first()));
+    QVERIFY2(traced.first().endsWith(": " + told), qPrintable(traced.first()));
     QVERIFY(get(fileName, instanceName) == nullptr);
+}
+
+void TstComponents::failureIsTracedOnlyIfAskedFor()
+{
+    const JedTest::TraceMask mask(0);
+    JedTest::TraceRecorder traces;
+    QVERIFY(!failureOf("Absent.dll", QString()).isEmpty());
+    QCOMPARE(traces.take(), QStringList());
 }
 
 void TstComponents::failureLeavesWhatThereIs()
 {
+    const JedTest::TraceMask mask(0);
     IDllInstance* before = make("GoodComponent.dll");
     QVERIFY(!failureOf("GoodComponent.dll", "throw standard").isEmpty());
     QCOMPARE(get("GoodComponent.dll"), before);

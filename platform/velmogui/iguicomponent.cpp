@@ -1,0 +1,9 @@
+#include <velmogui/iguicomponent.h>
+
+namespace VelmoGui {
+
+IGuiComponent::IGuiComponent() = default;
+
+IGuiComponent::~IGuiComponent() = default;
+
+} // namespace VelmoGui
