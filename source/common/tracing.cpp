@@ -5,10 +5,22 @@
 
 namespace JEDVEPLUGIN {
 
+namespace {
+void traceIf(quint32 messageClass, const TracePoint& point, const QString& message)
+{
+    if (ErrorHandler::Instance()->GetTraceMask() & messageClass)
+        _Q_Trace(message, point.file, point.line);
+}
+} // namespace
+
 void traceError(const TracePoint& point, const QString& message)
 {
-    if (ErrorHandler::Instance()->GetTraceMask() & ErrorHandler::TRACE_ERRORS)
-        _Q_Trace(message, point.file, point.line);
+    traceIf(ErrorHandler::TRACE_ERRORS, point, message);
+}
+
+void traceJobType(const TracePoint& point, const QString& message)
+{
+    traceIf(ErrorHandler::TRACE_JOB_TYPE, point, message);
 }
 
 } // namespace JEDVEPLUGIN
