@@ -70,6 +70,7 @@ public:
     static void setBit(IRGObject& e, int field) { e.m_set |= Q_UINT64_C(1) << field; }
     static bool bit(const IRGObject& e, int field) { return (e.m_set >> field) & 1U; }
     static bool isFieldSet(const IRGObject& e, int field) { return e.isFieldSet(field); }
+    static int itemCount(const IRGObject& e, int field) { return e.itemCount(field); }
     static void resetField(IRGObject& e, int field) { e.resetField(field); }
     static void* list(IRGObject& e, int field) { return e.listAt(field); }
     static const void* list(const IRGObject& e, int field) { return e.listAt(field); }

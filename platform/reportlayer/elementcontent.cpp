@@ -61,6 +61,7 @@ void IRGObject::resetContent()
     m_set = 0;
     m_present = false;
     m_changed = false;
+    m_replaced = false;
     delete m_extras;
     m_extras = nullptr;
     if (!m_cells)
@@ -81,6 +82,7 @@ void IRGObject::copyContent(const IRGObject& other)
     m_set = other.m_set;
     m_present = other.m_present;
     m_changed = other.m_changed;
+    m_replaced = other.m_replaced;
     m_extras = other.m_extras ? new Extras(*other.m_extras) : nullptr;
     if (!other.m_cells)
         return;
@@ -129,6 +131,7 @@ void IRGObject::takeContent(IRGObject& other)
     m_set = other.m_set;
     m_present = other.m_present;
     m_changed = other.m_changed;
+    m_replaced = other.m_replaced;
     std::swap(m_extras, other.m_extras);
 }
 
@@ -161,7 +164,7 @@ bool IRGObject::isFieldSet(int field) const
     if (!m_cells)
         return false;
     if (row.list)
-        return m_cells[field].list && row.listOperations->count(m_cells[field].list) > 0;
+        return itemCount(field) > 0;
     if (row.kind != FieldKind::Element)
         return ElementAccess::bit(*this, field);
     if (m_table->choice)
@@ -182,20 +185,24 @@ bool IRGObject::isSet() const
 
 bool IRGObject::isChangedWithin() const
 {
-    if (m_changed)
-        return true;
-    for (int i = 0; m_cells && i < m_table->fieldCount; ++i) {
+    const auto differs = [](const IRGObject* child) { return child->m_replaced || child->isChangedWithin(); };
+    bool result = m_changed;
+    for (int i = 0; m_cells && !result && i < m_table->fieldCount; ++i) {
         const Field& row = m_table->fields[i];
-        if (row.kind != FieldKind::Element || !m_cells[i].element)
+        if (row.kind != FieldKind::Element)
             continue;
-        if (!row.list && m_cells[i].element->isChangedWithin())
-            return true;
-        for (int k = 0; row.list && k < row.listOperations->count(m_cells[i].list); ++k) {
-            if (row.listOperations->element(m_cells[i].list, k)->isChangedWithin())
-                return true;
-        }
+        if (!row.list)
+            result = m_cells[i].element && differs(m_cells[i].element);
+        for (int k = itemCount(i) - 1; k >= 0 && !result; --k)
+            result = differs(row.listOperations->element(m_cells[i].list, k));
     }
-    return false;
+    return result;
+}
+
+int IRGObject::itemCount(int field) const
+{
+    const Field& row = m_table->fields[field];
+    return row.list && m_cells && m_cells[field].list ? row.listOperations->count(m_cells[field].list) : 0;
 }
 
 // A choice is made by setting something in an alternative, of which the choice is not told. So the

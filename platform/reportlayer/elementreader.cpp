@@ -2,6 +2,7 @@
 #include "elementreader_p.h"
 #include "lexical_p.h"
 #include "textbounds_p.h"
+#include <algorithm>
 #include <QCoreApplication>
 #include <QXmlStreamReader>
 
@@ -11,6 +12,8 @@ namespace {
 
 const int MAXIMUM_PROBLEMS = 100;
 const int LONGEST_QUOTE = 60; // characters of a wrong value in a message
+const char* const NO_NAME =
+    QT_TRANSLATE_NOOP("ReportLayer", "The name of an attribute holds a wrong character");
 const char* const TOO_DEEP =
     QT_TRANSLATE_NOOP("ReportLayer", "Elements are nested more than 256 levels deep");
 
@@ -41,11 +44,12 @@ public:
 private:
     QXmlStreamReader::TokenType next();
     bool readElement(IRGObject& element);
-    void readAttributes(IRGObject& element, Place* place);
+    bool readAttributes(IRGObject& element, Place* place);
     bool readChild(IRGObject& element, Place* place);
     bool readNested(IRGObject& element, int field);
     bool readSimple(IRGObject& element, int field, Place* place);
     bool readText(SimpleContent* content);
+    bool acceptForeignAttributes();
     bool skipElement();
     bool keepUnknownElement(IRGObject& element, const Place& place);
     void keep(IRGObject& element, ForeignPart::Kind kind, const Place& place, const QString& text);
@@ -91,11 +95,32 @@ int findField(const ElementTable& table, const QStringRef& name, int guess, bool
     return -1;
 }
 
-int itemCount(const IRGObject& element, int field)
+// The XML reader lets attribute names pass that hold other characters beyond ASCII.
+bool isName(const QStringRef& text)
 {
-    const Field& row = element.table().fields[field];
-    const ElementAccess::Cell* cells = ElementAccess::cells(element);
-    return row.list && cells && cells[field].list ? row.listOperations->count(cells[field].list) : 0;
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar c) { return c.unicode() < 0x80 || c.isLetterOrNumber() || c.isMark(); });
+}
+
+bool isReal(FieldKind kind)
+{
+    return kind == FieldKind::Float || kind == FieldKind::Double;
+}
+
+// A value that converts may still break the schema. Dates are not looked into here, and validators do not agree about
+// blanks round a number.
+bool isSurelyValid(const Field& field, const QStringRef& text, const FieldValue& value)
+{
+    if (field.kind == FieldKind::String || field.kind == FieldKind::Enumeration)
+        return true;
+    if (field.kind == FieldKind::DateTime || text.at(0).isSpace() || text.at(text.size() - 1).isSpace())
+        return false;
+    return isReal(field.kind) ? field.isInRange(value.real) : field.isInRange(value.integer);
+}
+
+QString textOf(const QXmlStreamAttribute& attribute)
+{
+    return attributeText(attribute.qualifiedName().toString(), attribute.value().toString());
 }
 
 quint64 bitOf(int field)
@@ -163,7 +188,8 @@ bool Reader::readElement(IRGObject& element)
         return fail(message(TOO_DEEP));
     ElementAccess::setPresent(element);
     Place place;
-    readAttributes(element, &place);
+    if (!readAttributes(element, &place))
+        return false;
     place.field = -1;
     for (;;) {
         switch (next()) {
@@ -172,7 +198,8 @@ bool Reader::readElement(IRGObject& element)
                 return false;
             break;
         case QXmlStreamReader::EndElement:
-            if ((element.table().requiredFields & ~place.seen) != 0)
+            if ((element.table().requiredFields & ~place.seen) != 0 ||
+                (element.table().choice && place.field < 0))
                 m_followsTable = false;
             --m_level;
             return true;
@@ -192,7 +219,7 @@ bool Reader::readElement(IRGObject& element)
     }
 }
 
-void Reader::readAttributes(IRGObject& element, Place* place)
+bool Reader::readAttributes(IRGObject& element, Place* place)
 {
     const QXmlStreamAttributes attributes = m_reader.attributes();
     for (const QXmlStreamAttribute& attribute : attributes) {
@@ -203,14 +230,14 @@ void Reader::readAttributes(IRGObject& element, Place* place)
             place->seen |= bitOf(field);
             if (store(element, field, attribute.value()))
                 continue;
+            reportValue(element.table().fields[field], attribute.value().toString());
+        } else if (!isName(attribute.qualifiedName())) {
+            return fail(message(NO_NAME));
         }
         m_followsTable = false;
-        const QString value = attribute.value().toString();
-        if (field >= 0)
-            reportValue(element.table().fields[field], value);
-        keep(element, field >= 0 ? ForeignPart::Instead : ForeignPart::Attribute, *place,
-             attributeText(attribute.qualifiedName().toString(), value));
+        keep(element, field >= 0 ? ForeignPart::Instead : ForeignPart::Attribute, *place, textOf(attribute));
     }
+    return true;
 }
 
 bool Reader::readChild(IRGObject& element, Place* place)
@@ -232,7 +259,7 @@ bool Reader::readChild(IRGObject& element, Place* place)
     place->guess = field;
     if (row.kind != FieldKind::Element)
         return readSimple(element, field, place);
-    place->index = itemCount(element, field);
+    place->index = ElementAccess::itemCount(element, field);
     place->field = field;
     return readNested(element, field);
 }
@@ -257,14 +284,17 @@ bool Reader::readSimple(IRGObject& element, int field, Place* place)
     const Field& row = element.table().fields[field];
     const int begin = m_begin;
     SimpleContent content;
+    if (!acceptForeignAttributes())
+        return false;
     for (const QXmlStreamAttribute& attribute : m_reader.attributes())
-        content.attributes +=
-            attributeText(attribute.qualifiedName().toString(), attribute.value().toString());
+        content.attributes.append(textOf(attribute));
+    ++m_level;
     if (!readText(&content))
         return false;
+    --m_level;
     Place here = *place;
     here.field = field;
-    here.index = itemCount(element, field);
+    here.index = ElementAccess::itemCount(element, field);
     const bool stored = !content.nested && store(element, field, QStringRef(&m_collected));
     if (!stored)
         reportValue(row, m_collected);
@@ -314,9 +344,7 @@ bool Reader::store(IRGObject& element, int field, const QStringRef& text)
     FieldValue value;
     if (!parseValue(row, text, &value))
         return false;
-    const bool real = row.kind == FieldKind::Float || row.kind == FieldKind::Double;
-    if (row.kind == FieldKind::DateTime ||
-        (real ? !row.isInRange(value.real) : !row.isInRange(value.integer)))
+    if (!isSurelyValid(row, text, value))
         m_followsTable = false;
     ElementAccess::Cell& cell = ElementAccess::cells(element)[field];
     if (row.list) {
@@ -325,7 +353,7 @@ bool Reader::store(IRGObject& element, int field, const QStringRef& text)
         row.listOperations->appendValue(cell.list, value);
         return true;
     }
-    if (real)
+    if (isReal(row.kind))
         cell.real = value.real;
     else if (row.kind == FieldKind::String || row.kind == FieldKind::DateTime)
         cell.text = value.text;
@@ -335,14 +363,27 @@ bool Reader::store(IRGObject& element, int field, const QStringRef& text)
     return true;
 }
 
+bool Reader::acceptForeignAttributes()
+{
+    const QXmlStreamAttributes attributes = m_reader.attributes();
+    const auto accepted = [](const QXmlStreamAttribute& attribute) {
+        return isName(attribute.qualifiedName());
+    };
+    return std::all_of(attributes.begin(), attributes.end(), accepted) || fail(message(NO_NAME));
+}
+
 // The start tag of the element has been read; goes on to its end, whatever is in it.
 bool Reader::skipElement()
 {
+    if (!acceptForeignAttributes())
+        return false;
     for (int level = 1; level > 0;) {
         switch (next()) {
         case QXmlStreamReader::StartElement:
             if (m_level + ++level > MAXIMUM_LEVELS)
                 return fail(message(TOO_DEEP));
+            if (!acceptForeignAttributes())
+                return false;
             break;
         case QXmlStreamReader::EndElement:
             --level;

@@ -50,7 +50,7 @@ int countAt(const IRGObject& element, int field)
 {
     const Field& row = element.table().fields[field];
     if (row.list)
-        return row.listOperations->count(ElementAccess::list(element, field));
+        return ElementAccess::itemCount(element, field);
     return ElementAccess::isFieldSet(element, field) ? 1 : 0;
 }
 

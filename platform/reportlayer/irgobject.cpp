@@ -39,7 +39,7 @@ IRGObject& IRGObject::operator=(IRGObject&& other) noexcept
     if (this != &other) {
         takeContent(other);
         m_validate = other.m_validate;
-        m_changed = true;
+        m_replaced = true;
     }
     return *this;
 }
@@ -68,6 +68,7 @@ bool IRGObject::SetXmlString(const QString& text, bool whole)
         return false;
     }
     takeContent(loaded);
+    m_replaced = true;
     return true;
 }
 

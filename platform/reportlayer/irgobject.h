@@ -115,6 +115,7 @@ private:
     void forgetForeign(int field);
     void handOutAlternative(int field);
     bool isChangedWithin() const;
+    int itemCount(int field) const;
 
     const ElementTable* m_table; // Not owned, constant.
     Cell* m_cells = nullptr;     // Owned, one for each field; null until something is set.
@@ -122,6 +123,7 @@ private:
     quint64 m_set = 0;           // a bit for each simple field that is set, or the alternative last asked for
     bool m_present = false;      // set by a setter of its own or by loading
     bool m_changed = false;      // since it was made or loaded
+    bool m_replaced = false;     // its whole content, since an element around it was loaded
     bool m_validate = false;
 };
 
