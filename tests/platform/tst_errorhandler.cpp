@@ -5,6 +5,8 @@
 
 #include <QThread>
 
+#include <cstdlib>
+
 class TstErrorHandler : public QObject
 {
     Q_OBJECT
@@ -63,6 +65,27 @@ TraceSink sinkInto(QStringList* log, const QString& name)
     return [log, name](const TraceRecord& record) { log->append(name + ' ' + record.message); };
 }
 
+/// Traces when all static objects of this program go, which the handler has to outlive.
+class AtTheEnd
+{
+public:
+    ~AtTheEnd()
+    {
+        QStringList log;
+        const int id = ErrorHandler::Instance()->AddTraceSink(sinkInto(&log, "sink"));
+        ErrorHandler::Instance()->Dispatch({"late", "file", 1});
+        if (ErrorHandler::Instance() != m_handler || log != QStringList("sink late"))
+            std::_Exit(EXIT_FAILURE);
+        ErrorHandler::Instance()->RemoveTraceSink(id);
+    }
+    void arm() { m_handler = ErrorHandler::Instance(); }
+
+private:
+    ErrorHandler* m_handler = nullptr;
+};
+
+AtTheEnd s_atTheEnd; // Made before the handler, so it goes after everything static that the handler could be.
+
 /// A sink for the life of the object.
 class ScopedSink
 {
@@ -85,6 +108,7 @@ private:
 void TstErrorHandler::instanceIsOne()
 {
     QVERIFY(ErrorHandler::Instance() != nullptr);
+    s_atTheEnd.arm();
     QCOMPARE(ErrorHandler::Instance(), ErrorHandler::Instance());
 }
 
