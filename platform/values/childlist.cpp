@@ -1,37 +1,11 @@
 #include <values/childlist.h>
 
-#include <values/node.h>
-
 namespace {
 
 /// Below this number a walk is as fast as the index, and saves making it.
 const int INDEX_FROM = 8;
 
 } // namespace
-
-void ChildList::append(ValueBase* child)
-{
-    child->m_previous = m_last;
-    child->m_next = nullptr;
-    (m_last == nullptr ? m_first : m_last->m_next) = child;
-    m_last = child;
-    ++m_count;
-    if (m_isIndexed)
-        addToIndex(child);
-}
-
-void ChildList::remove(ValueBase* child)
-{
-    (child->m_previous == nullptr ? m_first : child->m_previous->m_next) = child->m_next;
-    (child->m_next == nullptr ? m_last : child->m_next->m_previous) = child->m_previous;
-    --m_count;
-    if (m_hasTwins)
-        forgetIds();
-    else if (m_isIndexed)
-        m_index.remove(child->GetId());
-    child->m_previous = nullptr;
-    child->m_next = nullptr;
-}
 
 ValueBase* ChildList::find(const QString& id) const
 {
@@ -73,4 +47,12 @@ void ChildList::addToIndex(ValueBase* child) const
         m_hasTwins = true;
     else
         first = child;
+}
+
+void ChildList::removeFromIndex(const ValueBase* child)
+{
+    if (m_hasTwins)
+        forgetIds();
+    else
+        m_index.remove(child->GetId());
 }

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <values/values_export.h>
+#include <values/valuebase.h>
 
 #include <QHash>
 #include <QString>
 
-class ValueBase;
-
 /// The children of one kind of a node, in order of adding. They are linked by members of their own, so that
 /// adding and removing one costs a few pointers; ids are hashed when the first one is asked for. Does not own
 /// them.
-class VALUES_EXPORT ChildList
+class ChildList
 {
 public:
     ChildList() = default;
@@ -18,8 +16,24 @@ public:
     ValueBase* first() const { return m_first; }
     int count() const { return m_count; }
 
-    void append(ValueBase* child);
-    void remove(ValueBase* child);
+    void append(ValueBase* child)
+    {
+        child->m_previous = m_last;
+        child->m_next = nullptr;
+        (m_last == nullptr ? m_first : m_last->m_next) = child;
+        m_last = child;
+        ++m_count;
+        if (m_isIndexed)
+            addToIndex(child);
+    }
+    void remove(ValueBase* child)
+    {
+        (child->m_previous == nullptr ? m_first : child->m_previous->m_next) = child->m_next;
+        (child->m_next == nullptr ? m_last : child->m_next->m_previous) = child->m_previous;
+        --m_count;
+        if (m_isIndexed)
+            removeFromIndex(child);
+    }
     /// The first one of that id that is not leaving, null if there is none or the id is empty.
     ValueBase* find(const QString& id) const;
     /// To be called when an id has changed.
@@ -30,6 +44,7 @@ private:
 
     void buildIndex() const;
     void addToIndex(ValueBase* child) const;
+    void removeFromIndex(const ValueBase* child);
 
     ValueBase* m_first = nullptr;
     ValueBase* m_last = nullptr;

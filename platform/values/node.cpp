@@ -35,12 +35,13 @@ Node* Node::GetChildNode(const QString& id) const
 bool Node::AddChild(ValueBase* child, const QString& key)
 {
     if (m_isEnding || child == nullptr || child->isGoing() || child->m_parent != nullptr ||
-        child->isTreeRoot())
+        child->m_isTreeRoot)
         return false;
     if ((!key.isEmpty() && key.contains(QLatin1Char('/'))) || (child->m_isNode && isInside(child)))
         return false;
     const PathWatch watch(child);
-    child->m_key = key;
+    if (!key.isEmpty())
+        child->m_key = key;
     child->m_parent = this;
     listOf(child).append(child);
     watch.tellChange();

@@ -57,6 +57,4 @@ private:
 
     ChildList m_values;
     ChildList m_childNodes;
-    bool m_isTreeRoot = false;
-    bool m_isEnding = false; // The destructor is at work.
 };

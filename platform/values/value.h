@@ -28,13 +28,10 @@ public:
 
     T GetValue() const { return m_value; }
     /// Tells CHANGE_VALUE.
-    virtual bool SetValue(const T& value, IObserver* except = nullptr)
+    bool SetValue(const T& value, IObserver* except = nullptr)
     {
-        if (!ValueCompare::isSame(m_value, value)) {
-            m_value = value;
-            NotifyObservers(CHANGE_VALUE, except);
-        }
-        return true;
+        // Not virtual, since values without limits are set by far most often.
+        return m_isLimited ? setLimited(value, except) : store(value, except);
     }
 
     QString GetText() const override { return F::ToText(m_value); }
@@ -54,7 +51,30 @@ public:
     }
 
 protected:
+    /// For values that do not take everything.
+    struct Limited
+    {
+    };
+    explicit Value(Limited)
+        : m_isLimited(true)
+    {
+    }
+
+    /// SetValue() of limited values.
+    virtual bool setLimited(const T& value, IObserver* except) { return store(value, except); }
+    bool store(const T& value, IObserver* except)
+    {
+        if (!ValueCompare::isSame(m_value, value)) {
+            m_value = value;
+            NotifyObservers(CHANGE_VALUE, except);
+        }
+        return true;
+    }
+
     T m_value{};
+
+private:
+    const bool m_isLimited = false;
 };
 
 extern template class Value<bool, FormatBool<bool>, StreamFormat<bool, FormatBool<bool>>>;

@@ -46,25 +46,15 @@ QString ValueBase::GetPathName() const
 {
     QStringList ids;
     const ValueBase* object = this;
-    while (!object->m_isRegistered && !object->isTreeRoot()) {
+    while (!object->m_isRegistered && !object->m_isTreeRoot) {
         if (object->m_parent == nullptr || object->GetId().isEmpty())
             return QString();
         ids.append(object->GetId());
         object = object->m_parent;
     }
     ids.append(object->m_isRegistered ? Tree::Instance()->newestPath(object) : QString());
-    if (ids.size() == 1 && object->isTreeRoot())
+    if (ids.size() == 1 && object->m_isTreeRoot)
         return QStringLiteral("/");
     std::reverse(ids.begin(), ids.end());
     return ids.join(QLatin1Char('/'));
-}
-
-bool ValueBase::isTreeRoot() const
-{
-    return m_isNode && static_cast<const Node*>(this)->m_isTreeRoot;
-}
-
-bool ValueBase::isGoing() const
-{
-    return m_state == STATE_LEAVING || (m_isNode && static_cast<const Node*>(this)->m_isEnding);
 }

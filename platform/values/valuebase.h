@@ -78,9 +78,8 @@ private:
     friend class Node;
     friend class Tree;
 
-    bool isTreeRoot() const;
     /// Its destructor is at work, so that it must not be found any more.
-    bool isGoing() const;
+    bool isGoing() const { return m_isEnding || m_state == STATE_LEAVING; }
 
     QString m_name;
     QString m_key;                   // Empty: the name is the id.
@@ -89,5 +88,7 @@ private:
     ValueBase* m_next = nullptr;
     TValueState m_state = STATE_NORMAL;
     bool m_isNode;
+    bool m_isTreeRoot = false;
+    bool m_isEnding = false;     // A node whose destructor is at work, though it has not left yet.
     bool m_isRegistered = false; // The tree knows further addresses of it.
 };

@@ -27,18 +27,16 @@ template <class T, class F, class S>
 class VALUES_EXPORT ValueNumeric : public Value<T, F, S>, public NumericView
 {
 public:
-    ValueNumeric() = default;
+    ValueNumeric()
+        : Value<T, F, S>(typename Value<T, F, S>::Limited())
+    {
+    }
     ~ValueNumeric() override { this->Leave(); }
 
     T GetMin() const { return m_min; }
     T GetMax() const { return m_max; }
     T GetStep() const { return m_step; }
 
-    /// Takes the bound that is nearest if \p value lies outside. Tells CHANGE_VALUE.
-    bool SetValue(const T& value, IObserver* except = nullptr) override
-    {
-        return value == value && Value<T, F, S>::SetValue(std::clamp(value, m_min, m_max), except);
-    }
     /// A minimum above the maximum takes the maximum along.
     bool SetMin(const T& min, IObserver* except = nullptr)
     {
@@ -66,6 +64,10 @@ public:
     double GetDoubleStep() const override { return static_cast<double>(m_step); }
 
 private:
+    bool setLimited(const T& value, IObserver* except) override
+    {
+        return value == value && this->store(std::clamp(value, m_min, m_max), except);
+    }
     bool change(const T& min, const T& max, const T& step, IObserver* except)
     {
         const T value = std::clamp(this->m_value, min, max);

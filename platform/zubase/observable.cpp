@@ -6,39 +6,52 @@ IObserver::~IObserver() = default;
 
 Observable::~Observable()
 {
-    for (Walk* walk = m_walk; walk != nullptr; walk = walk->m_outer)
-        walk->m_observable = nullptr;
+    if (m_audience == nullptr)
+        return;
+    m_audience->isOver = true;
+    if (m_audience->walks == 0)
+        cleanUp(m_audience);
 }
 
 void Observable::AddObserver(IObserver* observer)
 {
-    if (observer == nullptr ||
-        std::find(m_observers.begin(), m_observers.end(), observer) != m_observers.end())
+    if (observer == nullptr)
         return;
-    m_observers.push_back(observer);
+    if (m_audience == nullptr)
+        m_audience = new Audience;
+    std::vector<IObserver*>& observers = m_audience->observers;
+    if (std::find(observers.begin(), observers.end(), observer) == observers.end())
+        observers.push_back(observer);
 }
 
 void Observable::DeleteObserver(IObserver* observer)
 {
-    const auto found = std::find(m_observers.begin(), m_observers.end(), observer);
-    if (observer == nullptr || found == m_observers.end())
+    if (observer == nullptr || m_audience == nullptr)
         return;
-    if (m_walk == nullptr) {
-        m_observers.erase(found);
+    std::vector<IObserver*>& observers = m_audience->observers;
+    const auto found = std::find(observers.begin(), observers.end(), observer);
+    if (found == observers.end())
         return;
-    }
     *found = nullptr;
-    m_hasHoles = true;
+    m_audience->hasHoles = true;
+    if (m_audience->walks == 0)
+        cleanUp(m_audience);
 }
 
-bool Observable::HasObservers() const
+bool Observable::isHeard() const
 {
-    return std::any_of(m_observers.begin(), m_observers.end(),
+    return std::any_of(m_audience->observers.begin(), m_audience->observers.end(),
                        [](const IObserver* observer) { return observer != nullptr; });
 }
 
-void Observable::closeHoles()
+/// With no notification under way: closes the holes, or ends what has outlived its observable.
+void Observable::cleanUp(Audience* audience)
 {
-    m_observers.erase(std::remove(m_observers.begin(), m_observers.end(), nullptr), m_observers.end());
-    m_hasHoles = false;
+    if (audience->isOver) {
+        delete audience;
+        return;
+    }
+    std::vector<IObserver*>& observers = audience->observers;
+    observers.erase(std::remove(observers.begin(), observers.end(), nullptr), observers.end());
+    audience->hasHoles = false;
 }

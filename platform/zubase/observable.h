@@ -47,7 +47,7 @@ public:
     /// Unknown observers and null are ignored. Who is detached during a notification is no longer told, not
     /// even by that one.
     void DeleteObserver(IObserver* observer);
-    bool HasObservers() const;
+    bool HasObservers() const { return m_audience != nullptr && isHeard(); }
 
     /// Tells every observer but \p except.
     /// \param except  who made the change and need not hear of it, may be null
@@ -57,57 +57,57 @@ public:
 private:
     Q_DISABLE_COPY(Observable)
 
-    /// A notification that is under way, on the stack of NotifyObservers(). They form a chain, innermost
-    /// first.
+    /// The observers. Outlives the observable until its last notification has ended.
+    struct Audience
+    {
+        std::vector<IObserver*>
+            observers;       // Not owned; null where somebody was detached during a notification.
+        int walks = 0;       // Notifications that are under way.
+        bool isOver = false; // The observable is no more.
+        bool hasHoles = false;
+    };
+
+    /// A notification that is under way; ends also when an observer throws.
     class Walk
     {
     public:
-        explicit Walk(Observable* observable)
-            : m_observable(observable)
-            , m_outer(observable->m_walk)
+        explicit Walk(Audience* audience)
+            : m_audience(audience)
         {
-            observable->m_walk = this;
+            ++audience->walks;
         }
         ~Walk()
         {
-            if (m_observable != nullptr)
-                m_observable->endWalk(m_outer);
+            if (--m_audience->walks == 0 && (m_audience->isOver || m_audience->hasHoles))
+                cleanUp(m_audience);
         }
-        bool isEnded() const { return m_observable == nullptr; }
 
     private:
         Q_DISABLE_COPY(Walk)
-        friend class Observable;
 
-        Observable* m_observable; // Not owned, null as soon as it is deleted.
-        Walk* m_outer;            // Not owned, null for the outermost one.
+        Audience* m_audience; // Not owned.
     };
 
-    void endWalk(Walk* outer)
-    {
-        m_walk = outer;
-        if (outer == nullptr && m_hasHoles)
-            closeHoles();
-    }
-    void closeHoles();
+    bool isHeard() const;
+    static void cleanUp(Audience* audience);
 
-    std::vector<IObserver*> m_observers; // Not owned; null where somebody was detached during a notification.
-    Walk* m_walk = nullptr;              // The innermost notification, not owned.
-    bool m_hasHoles = false;
+    Audience* m_audience =
+        nullptr; // Owned, unless a notification is under way. Null until somebody attaches.
 };
 
 inline bool Observable::NotifyObservers(TChangeCode code, IObserver* except)
 {
-    if (m_observers.empty())
+    Audience* const audience = m_audience;
+    if (audience == nullptr)
         return true;
-    const Walk walk(this);
-    const std::size_t count = m_observers.size();
+    const Walk walk(audience);
+    const std::size_t count = audience->observers.size();
     for (std::size_t i = 0; i < count; ++i) {
-        IObserver* const observer = m_observers[i];
+        IObserver* const observer = audience->observers[i];
         if (observer == nullptr || observer == except)
             continue;
         observer->Update(this, code);
-        if (walk.isEnded())
+        if (audience->isOver)
             return false;
     }
     return true;
