@@ -13,9 +13,9 @@ class TransmitterItem;
 
 namespace JEDVEPLUGIN {
 
-/// Knows where in a job file a parameter set belongs, and loads its XML text into that place. The text is that
-/// of the one element; what cannot be read leaves the element as it was. One for the process, never changed
-/// after the library is loaded. GUI thread only.
+/// Knows where in a job file a parameter set belongs, and loads its XML text into that place. The text is
+/// that of the one element; what cannot be read leaves the element as it was. One for the process, never
+/// changed after the library is loaded. GUI thread only.
 class JEDVEPB_EXPORT JobXmlHandler
 {
 public:
@@ -59,18 +59,19 @@ public:
     /// \return -1 for an unknown name
     const enJOB_SETTING_TYPES getSettingType(const QString& name) const;
 
-    /// Loads "ActivityGeneration", "AutoRecordingSettings" or "CompressionSettings" into a sub-job; an empty text
-    /// is handed on, too. Any other name is traced and changes nothing.
+    /// Loads "ActivityGeneration", "AutoRecordingSettings" or "CompressionSettings" into a sub-job; an empty
+    /// text is handed on, too. Any other name is traced and changes nothing.
     void addSubjobSetting(const QString& name, const QString& xml, JobXml::Subjob& subjob);
-    /// Loads a parameter set into the settings of a sub-job. An unknown name is traced and changes nothing. An
-    /// empty text changes nothing, nor does a set that the settings have no place for: "ActivityGeneration",
-    /// "AutoRecordingSettings", "CompressionSettings", "StorageSettings". Of "DSCSettings" the priority criteria,
-    /// the produce criteria and the spectral detector settings are left out.
+    /// Loads a parameter set into the settings of a sub-job. An unknown name is traced and changes nothing.
+    /// An empty text changes nothing, nor does a set that the settings have no place for:
+    /// "ActivityGeneration", "AutoRecordingSettings", "CompressionSettings", "StorageSettings". Of
+    /// "DSCSettings" the priority criteria, the produce criteria and the spectral detector settings are left
+    /// out.
     void addParameterSetObject(const QString& name, const QString& xml, JobXml::Settings& settings);
-    /// Loads "ADemSettings", "DF_Settings", "TunerSettings" or "FFTSettings" into an item of a transmitter list;
-    /// of "ScanSettings" it takes the threshold, and dwell, signal and measurement time as far as they are set;
-    /// a scan text that cannot be read counts as an empty element. An unknown name is traced and changes nothing; an
-    /// empty text and any other set change nothing.
+    /// Loads "ADemSettings", "DF_Settings", "TunerSettings" or "FFTSettings" into an item of a transmitter
+    /// list; of "ScanSettings" it takes the threshold, and dwell, signal and measurement time as far as they
+    /// are set; a scan text that cannot be read counts as an empty element. An unknown name is traced and
+    /// changes nothing; an empty text and any other set change nothing.
     void addTransmitterListSetting(const QString& name, const QString& xml, JobXml::TransmitterItem& item);
 
 private:

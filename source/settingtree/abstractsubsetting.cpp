@@ -14,8 +14,8 @@ const QLatin1String GENERAL_SETTINGS("GeneralSettings");
 const int MAX_STRIDES = 64; // beyond that many groups, comparing every entry is faster
 
 // The place behind the last child of a group, the end of the list if the group is empty. Children of one type
-// usually stand together, so the walk from the end takes whole groups in its stride. It misses its aim only where
-// moves have torn groups apart, and gives up where there are very many.
+// usually stand together, so the walk from the end takes whole groups in its stride. It misses its aim only
+// where moves have torn groups apart, and gives up where there are very many.
 int endOfGroup(const Children& children, const TypeIndex& typeIndex, const Children& group)
 {
     if (group.isEmpty())
