@@ -110,10 +110,11 @@ void TstComponentLoading::unloadedComponentIsGone()
 {
     IGuiComponent* first = load("GuiComponent", true);
     IGuiComponent* second = load("GuiComponent", true);
-    JEDCommonHelper::unloadComponent(first);
     m_loaded.removeOne(first);
+    IDllInstance* gone = first;
+    JEDCommonHelper::unloadComponent(first);
     QCOMPARE(load("GuiComponent", false), second);
-    QVERIFY(!CfgCenter::Instance()->DestroyDllInstanceByPointer(first));
+    QVERIFY(!CfgCenter::Instance()->DestroyDllInstanceByPointer(gone));
 }
 
 void TstComponentLoading::unloadOfNothingIsIgnored()

@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QLibraryInfo>
+#include <QRandomGenerator>
 #include <QSet>
 #include <QTemporaryDir>
 
@@ -30,6 +31,7 @@ private slots:
     void everyCutIsNoticed();
     void brokenHeadersAreSurvived_data();
     void brokenHeadersAreSurvived();
+    void randomDamageIsSurvived();
     void libraryThatCannotBeLoadedNamesTheSymbol();
     void pluginObjectThatThrowsIsReported();
     void useDecidesAboutTheFactory_data();
@@ -365,6 +367,36 @@ void TstLibraryExaminer::brokenHeadersAreSurvived()
         m_examiner.load(copyWith("libHeader.so", fill(place, length)), acceptAnything);
     QVERIFY(timer.elapsed() < 1000);
     QVERIFY2(report.verdict == verdict, qPrintable(report.text));
+}
+
+void TstLibraryExaminer::randomDamageIsSurvived()
+{
+    QFile file(copyWith("libDamaged.so", [](QByteArray&) {}));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    const QByteArray whole = file.readAll();
+    // Mostly where it hurts: in the header, in the tables at both ends, in the metadata.
+    const QVector<QPair<int, int>> places = {{0, 64},
+                                             {64, 600},
+                                             {whole.size() - 2200, 2200},
+                                             {whole.indexOf("QTMETADATA"), 120},
+                                             {0, whole.size()}};
+    QRandomGenerator random(20240229);
+    QMap<TLibraryVerdict, int> verdicts;
+    for (int round = 0; round < 4000; ++round) {
+        QVERIFY(file.seek(0) && file.write(whole) == whole.size());
+        for (int damage = random.bounded(1, 5); damage > 0; --damage) {
+            const QPair<int, int> place = places.at(random.bounded(places.size()));
+            QVERIFY(file.seek(place.first + random.bounded(place.second)));
+            QVERIFY(file.putChar(char(random.bounded(256))));
+        }
+        QVERIFY(file.flush());
+        const LibraryReport report = m_examiner.examine(file.fileName());
+        QVERIFY(report.text.startsWith(file.fileName() + ": "));
+        ++verdicts[report.verdict];
+    }
+    for (const TLibraryVerdict verdict : {LIBRARY_ACCEPTED, LIBRARY_NO_LIBRARY, LIBRARY_OTHER_MACHINE,
+                                          LIBRARY_TRUNCATED, LIBRARY_NO_METADATA})
+        QVERIFY2(verdicts.value(verdict) > 0, qPrintable(LibraryExaminer::verdictName(verdict)));
 }
 
 void TstLibraryExaminer::libraryThatCannotBeLoadedNamesTheSymbol()
