@@ -329,13 +329,15 @@ void TstResourceDescription::inconsistentContentIsTaken_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("content");
 
-    QTest::newRow("no attributes") << QStringLiteral("<TunerProperties/>") << QStringLiteral("||1|");
+    QTest::newRow("no attributes") << QStringLiteral("<TunerProperties/>") << QStringLiteral("|||1|");
     QTest::newRow("no number") << tunerProperties(QString()).replace("'3'", "'many'")
-                               << QStringLiteral("Receiver|HF-1|1|");
+                               << QStringLiteral("Receiver|HT720|HF-1|1|");
     QTest::newRow("quantity below its range")
-        << tunerProperties(QString()).replace("'3'", "'-3'") << QStringLiteral("Receiver|HF-1|-3|");
+        << tunerProperties(QString()).replace("'3'", "'-3'") << QStringLiteral("Receiver|HT720|HF-1|-3|");
+    QTest::newRow("type that does not exist")
+        << tunerProperties(QString()).replace("HT720", "HT999") << QStringLiteral("Receiver||HF-1|3|");
     QTest::newRow("component without type")
-        << tunerProperties(QString(), "<Component name='a'/>") << QStringLiteral("Receiver|HF-1|3|/a");
+        << tunerProperties(QString(), "<Component name='a'/>") << QStringLiteral("Receiver|HT720|HF-1|3|/a");
 }
 
 void TstResourceDescription::inconsistentContentIsTaken()
@@ -346,10 +348,10 @@ void TstResourceDescription::inconsistentContentIsTaken()
     const ResourceDescription description(text);
 
     QVERIFY(description.isValid());
-    QCOMPARE(QStringLiteral("%1|%2|%3|%4")
-                 .arg(description.getName(), description.getBaseResource(),
-                      QString::number(description.getQuantity()),
-                      namesOf(description.getComponents()).join(',')),
+    QCOMPARE(QStringList({description.getName(), description.getType(), description.getBaseResource(),
+                          QString::number(description.getQuantity()),
+                          namesOf(description.getComponents()).join(',')})
+                 .join('|'),
              content);
 }
 

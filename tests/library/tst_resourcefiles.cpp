@@ -144,6 +144,7 @@ private slots:
     void readsEveryFileInTheOrderOfTheNames();
     void leavesOutWhatIsNoVisibleFile();
     void readsTheFilesOfTheExampleInstallation();
+    void readsTheFolderOfWrongFiles();
     void skipsWhatIsNotValid();
     void skipsWhatDoesNotOpen();
     void skipsWhatIsNoRegularFile();
@@ -239,6 +240,37 @@ void TstResourceFiles::readsTheFilesOfTheExampleInstallation()
         expected += traces(file);
     QCOMPARE(lines.mid(0, lines.size() - 1), expected);
     QCOMPARE(lines.last().count(','), example.entryList(QDir::Files).size() - 1);
+}
+
+void TstResourceFiles::readsTheFolderOfWrongFiles()
+{
+    const QDir wrong(JED_SOURCE_DIR "/tests/data/tuner");
+    const QMap<QString, QString> taken = {
+        {"cyclic-1.xml", "HT720/Ring, first"},
+        {"cyclic-2.xml", "HT720/Ring, second"},
+        {"cyclic-3.xml", "HT720/Ring, third"},
+        {"cyclic-own-parent.xml", "HT720/Its own parent"},
+        {"default-outside.xml", "HT720/Default outside"},
+        {"duplicate-1.xml", "HT720/Duplicate, first"},
+        {"duplicate-2.xml", "HT720/Duplicate, second"},
+        {"missing-parent.xml", "HT720/Missing parent"},
+        {"no-number.xml", "HT720/No number"},
+        {"no-version.xml", "HT720/No version"},
+        {"not-utf8.xml", "HT720/Not K\uFFFDste"},
+        {"range-upside-down.xml", "HT720/Range upside down"},
+        {"unknown-component.xml", "HT720/Unknown component"},
+        {"unknown-field.xml", "HT720/Unknown field"},
+        {"unknown-kind.xml", "HT720/Unknown kind"},
+        {"unknown-type.xml", "/Unknown type"},
+    };
+    write("installation.ini", "[JobManagement]\nTemplateFolder = " + wrong.path().toUtf8());
+
+    QStringList expected;
+    for (const QString& file : wrong.entryList(QDir::Files))
+        expected += traces(file, taken.contains(file) ? 0 : 416);
+    const QString names = QStringList(taken.values()).join(", ");
+    QCOMPARE(run(), expected + boxLines(wrong.path(), "outdated-number.xml~outdated-word.xml", names) +
+                        QStringList("read: " + names));
 }
 
 void TstResourceFiles::skipsWhatIsNotValid()
