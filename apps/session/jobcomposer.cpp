@@ -1,0 +1,224 @@
+#include "jobcomposer.h"
+
+#include "jobdocument.h"
+#include "jobplaces.h"
+#include "parametersets.h"
+#include "resourcereport.h"
+#include "subjobtree.h"
+#include "suggestion.h"
+#include "valuetext.h"
+
+#include <jedcommonhelper.h>
+#include <jobxml/parametersettext.h>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <values/node.h>
+
+using JEDVEPLUGIN::JEDCommonHelper;
+using JEDVEPLUGIN::ResourceDescription;
+using JobXml::ParameterSetText;
+
+namespace {
+const char* const JOB_TYPE_NAMES[] = {"Production", "Search", "Surveillance", "DFScan", "Measurement"};
+
+QString translate(const char* source)
+{
+    return QCoreApplication::translate("Session::JobComposer", source);
+}
+
+QStringList jobTypeNames()
+{
+    QStringList result;
+    for (const char* name : JOB_TYPE_NAMES)
+        result.append(QLatin1String(name));
+    return result;
+}
+
+// Reproducible where the environment asks for it.
+QString timeOfMaking()
+{
+    bool isFixed = false;
+    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isFixed);
+    const QDateTime now =
+        isFixed ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC) : QDateTime::currentDateTimeUtc();
+    return now.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ssZ"));
+}
+
+// One parameter set on its way from the value tree into the job; what is lost on the way is a finding.
+void composeSet(const Node& set, const QString& place, JobXml::Subjob* subjob, Session::Findings* findings)
+{
+    const QString name = set.GetId();
+    const auto warn = [&](const QString& text, const QString& advice) {
+        findings->append({Session::Finding::WARNING, place, 0, 0, text, advice});
+    };
+    ParameterSetText::Report report;
+    const QString xml = ParameterSetText::toText(set, QString(), &report);
+    for (const QString& id : report.valuesWithoutField)
+        warn(translate("%1/%2 is lost: the parameter set has no such field").arg(name, id), QString());
+    for (const QString& id : report.textsNotConverted)
+        warn(translate("%1/%2 is lost: its field does not take \"%3\"")
+                 .arg(name, id, set.GetChild(id)->GetText()),
+             QString());
+    if (!Session::isCarriedByJobFile(name)) {
+        warn(translate("%1 is lost: a job file cannot hold it").arg(name),
+             translate("The receiver keeps the values that it has."));
+        return;
+    }
+    for (const QString& field : Session::putParameterSet(name, xml, subjob))
+        warn(translate("%1/%2 is lost: a job file does not carry it").arg(name, field), QString());
+}
+} // namespace
+
+namespace Session {
+
+struct JobComposer::Subjob
+{
+    std::shared_ptr<ResourceDescription> resource;
+    QString startupMode;
+    SubjobTree tree;
+    QSet<QString> chosenSets; // Of which a value was set.
+};
+
+JobComposer::JobComposer(const Resources& resources)
+    : m_resources(resources)
+{
+}
+
+JobComposer::~JobComposer() = default;
+
+bool JobComposer::begin(const QString& type, const QString& name)
+{
+    if (JEDCommonHelper::StringToJobType(type) < 0)
+        return refuse(translate("there is no type of job \"%1\"").arg(type),
+                      translate("Types are %1.").arg(jobTypeNames().join(QLatin1String(", "))) +
+                          suggestion(type, jobTypeNames()));
+    m_type = type;
+    m_name = name.isEmpty() ? type : name;
+    m_subjobs.clear();
+    m_current = nullptr;
+    return true;
+}
+
+bool JobComposer::addSubjob(const QString& resource, const QString& startupMode)
+{
+    if (m_type.isEmpty())
+        return refuse(translate("no job was begun"), translate("Begin with: new TYPE [NAME]"));
+    QStringList keys;
+    std::shared_ptr<ResourceDescription> found;
+    for (const std::shared_ptr<ResourceDescription>& candidate : m_resources) {
+        keys.append(resourceKey(*candidate));
+        if (!found && keys.last() == resource)
+            found = candidate;
+    }
+    if (!found)
+        return refuse(translate("the installation offers no \"%1\"").arg(resource),
+                      translate("jedtool resources list shows what it offers.") + suggestion(resource, keys));
+    const QString mode = chooseStartupMode(*found, startupMode);
+    if (mode.isEmpty())
+        return false;
+    auto subjob = std::make_unique<Subjob>();
+    subjob->resource = found;
+    subjob->startupMode = mode;
+    subjob->tree.build(*found);
+    m_current = subjob.get();
+    m_subjobs.push_back(std::move(subjob));
+    return true;
+}
+
+bool JobComposer::selectSubjob(int number)
+{
+    if (number < 1 || number > subjobCount())
+        return refuse(translate("there is no sub-job %1").arg(number),
+                      translate("The job has %1.").arg(subjobCount()));
+    m_current = m_subjobs[size_t(number - 1)].get();
+    return true;
+}
+
+bool JobComposer::setValue(const QString& path, const QString& text)
+{
+    ValueBase* const found = value(path);
+    if (!found)
+        return false;
+    const QString set = path.section(QLatin1Char('/'), 0, 0);
+    QString reason;
+    if (!assignText(found, SubjobTree::field(path), text, &reason))
+        return refuse(QStringLiteral("%1: %2").arg(path, reason));
+    m_current->chosenSets.insert(set);
+    return true;
+}
+
+ValueBase* JobComposer::value(const QString& path)
+{
+    if (!m_current) {
+        refuse(translate("there is no sub-job"), translate("Add one with: add TYPE/BASE"));
+        return nullptr;
+    }
+    ValueBase* const found = m_current->tree.value(path);
+    if (!found)
+        refuse(translate("%1 has no value \"%2\"").arg(resourceKey(*m_current->resource), path),
+               translate("jedtool resources show %1 lists them.").arg(resourceKey(*m_current->resource)) +
+                   suggestion(path, m_current->tree.valuePaths()));
+    return found;
+}
+
+bool JobComposer::compose(JobDocument* document, Findings* findings)
+{
+    if (m_type.isEmpty())
+        return refuse(translate("no job was begun"), translate("Begin with: new TYPE [NAME]"));
+    JobXml::Job job;
+    JobXml::JobInformation& information = job.GetJobInformation();
+    information.SetJobType(JEDCommonHelper::JobTypeToJobXmlType(JEDCommonHelper::StringToJobType(m_type)));
+    information.SetName(m_name);
+    information.SetCreated(timeOfMaking());
+    for (size_t i = 0; i < m_subjobs.size(); ++i) {
+        const QString place =
+            translate("sub-job %1, %2").arg(QString::number(i + 1), resourceKey(*m_subjobs[i]->resource));
+        job.AppendSubjob(composeSubjob(*m_subjobs[i], place, findings));
+    }
+    document->job() = job;
+    return true;
+}
+
+bool JobComposer::refuse(const QString& text, const QString& advice)
+{
+    m_fault = {Finding::FAILURE, QString(), 0, 0, text, advice};
+    return false;
+}
+
+QString JobComposer::chooseStartupMode(const ResourceDescription& resource, const QString& wanted)
+{
+    const JEDVE::enJOB_TYPE type = JEDCommonHelper::StringToJobType(m_type);
+    const QStringList offered = resource.getStartupModes();
+    const QStringList modes =
+        JEDCommonHelper::restrictedStartupModes(offered, JEDCommonHelper::allowedStartupModeString(type));
+    const QString mode = wanted.isEmpty() ? modes.value(0) : JEDCommonHelper::startupModeFromGUI(wanted);
+    if (modes.contains(mode))
+        return mode;
+    if (modes.isEmpty())
+        refuse(
+            translate("%1 offers no start-up mode for a job of type %2").arg(resourceKey(resource), m_type),
+            translate("It offers %1.").arg(offered.join(QLatin1String(", "))));
+    else
+        refuse(translate("%1 does not offer the start-up mode \"%2\" for a job of type %3")
+                   .arg(resourceKey(resource), wanted, m_type),
+               translate("It offers %1.").arg(modes.join(QLatin1String(", "))) + suggestion(wanted, modes));
+    return QString();
+}
+
+JobXml::Subjob JobComposer::composeSubjob(const Subjob& draft, const QString& place, Findings* findings) const
+{
+    JobXml::Subjob subjob;
+    subjob.SetName(draft.resource->getName());
+    subjob.SetStartupMode(JobXml::Subjob::NameToStartupMode(draft.startupMode));
+    JobXml::ResourceDescription& resource = subjob.GetResourceDescription();
+    resource.SetType(JobXml::ResourceDescription::NameToType(draft.resource->getType()));
+    resource.SetBaseResource(draft.resource->getBaseResource());
+    resource.SetName(draft.resource->getName());
+    for (const Node* set : draft.tree.sets()) {
+        if (draft.chosenSets.contains(set->GetId()) || !draft.tree.isOptional(set->GetId()))
+            composeSet(*set, place, &subjob, findings);
+    }
+    return subjob;
+}
+
+} // namespace Session

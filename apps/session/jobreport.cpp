@@ -1,0 +1,149 @@
+#include "jobreport.h"
+
+#include "jobdocument.h"
+#include "jobplaces.h"
+#include "resourcereport.h"
+#include "subjobtree.h"
+#include "suggestion.h"
+
+#include <jedcommonhelper.h>
+#include <jobxml/parametersettext.h>
+#include <QCoreApplication>
+#include <values/node.h>
+
+using JEDVEPLUGIN::JEDCommonHelper;
+using JobXml::ParameterSetText;
+
+namespace {
+QString translate(const char* source)
+{
+    return QCoreApplication::translate("Session::JobReport", source);
+}
+
+QString keyOf(const JobXml::Subjob& subjob)
+{
+    const JobXml::ResourceDescription& resource = subjob.GetResourceDescription();
+    return JobXml::ResourceDescription::TypeToName(resource.GetType()) + QLatin1Char('/') +
+           resource.GetBaseResource();
+}
+
+// Looks at one sub-job and tells what is wrong with it.
+class SubjobChecker
+{
+public:
+    SubjobChecker(const QString& file, int number, const JobXml::Subjob& subjob, Session::Findings* findings)
+        : m_file(file)
+        , m_title(translate("sub-job %1, %2").arg(QString::number(number), keyOf(subjob)))
+        , m_subjob(subjob)
+        , m_findings(findings)
+    {
+    }
+
+    void check(const Session::JobComposer::Resources& resources, JEDVE::enJOB_TYPE jobType)
+    {
+        QStringList keys;
+        for (const auto& resource : resources) {
+            keys.append(Session::resourceKey(*resource));
+            if (keys.last() == keyOf(m_subjob)) {
+                checkStartupMode(resource->getStartupModes(), jobType);
+                checkSets(*resource);
+                return;
+            }
+        }
+        warn(translate("the installation does not offer this receiver"),
+             Session::suggestion(keyOf(m_subjob), keys).trimmed());
+    }
+
+private:
+    void warn(const QString& text, const QString& advice = QString())
+    {
+        m_findings->append(
+            {Session::Finding::WARNING, m_file, 0, 0, m_title + QLatin1String(": ") + text, advice});
+    }
+
+    void checkStartupMode(const QStringList& offered, JEDVE::enJOB_TYPE jobType)
+    {
+        const QString mode = JobXml::Subjob::StartupModeToName(m_subjob.GetStartupMode());
+        const QStringList modes = JEDCommonHelper::restrictedStartupModes(
+            offered, JEDCommonHelper::allowedStartupModeString(jobType));
+        if (!modes.contains(mode))
+            warn(translate("the receiver does not offer the start-up mode \"%1\" for this type of job")
+                     .arg(mode),
+                 translate("It offers %1.").arg(modes.join(QLatin1String(", "))));
+    }
+
+    void checkSets(const JEDVEPLUGIN::ResourceDescription& resource)
+    {
+        Session::SubjobTree tree;
+        tree.build(resource);
+        for (const Session::CarriedSet& carried : Session::carriedSets(m_subjob))
+            checkRoundTrip(&tree, carried);
+        for (const Node* set : tree.sets()) {
+            if (!Session::isCarriedByJobFile(set->GetId()))
+                warn(translate("the receiver has %1, which a job file cannot hold").arg(set->GetId()),
+                     translate("The receiver keeps the values that it has."));
+        }
+    }
+
+    // Text to values and back: what the text sets must come out again as it was.
+    void checkRoundTrip(Session::SubjobTree* tree, const Session::CarriedSet& carried)
+    {
+        const QString name = QLatin1String(carried.set->name);
+        Node* const node = tree->set(name);
+        if (!node) {
+            warn(translate("the receiver does not have the parameter set %1").arg(name));
+            return;
+        }
+        ParameterSetText::Report report;
+        ParameterSetText::fromText(*node, carried.xml, &report);
+        for (const QString& id : report.textsNotConverted + report.valuesClamped)
+            warn(translate("%1/%2 does not fit the receiver").arg(name, id),
+                 translate("jedtool resources show %1 tells what does.").arg(keyOf(m_subjob)));
+        if (report.isClean() && !holds(ParameterSetText::toText(*node, carried.xml), carried))
+            warn(translate("%1 does not come back from the value tree as it was").arg(name));
+    }
+
+    // Whether all that the sub-job's text sets is set to the same in the other text.
+    static bool holds(const QString& text, const Session::CarriedSet& carried)
+    {
+        const std::unique_ptr<REPORTGENERATOR::IRGObject> before(carried.set->table->create());
+        const std::unique_ptr<REPORTGENERATOR::IRGObject> after(carried.set->table->create());
+        if (!before->SetXmlString(carried.xml, false) || !after->SetXmlString(text, false))
+            return false;
+        const QString alone = after->GetXmlString(false);
+        after->TakeOver(*before);
+        return after->GetXmlString(false) == alone;
+    }
+
+    QString m_file;
+    QString m_title;
+    const JobXml::Subjob& m_subjob;
+    Session::Findings* m_findings;
+};
+} // namespace
+
+namespace Session {
+
+Findings checkJob(JobDocument* document, const JobComposer::Resources& resources)
+{
+    Findings findings;
+    document->validate(&findings);
+    JobDocument again;
+    again.job() = document->job();
+    const QByteArray text = document->text();
+    if (!again.job().SetXmlString(QString::fromUtf8(text), true) || again.text() != text)
+        findings.append({Finding::FAILURE, document->path(), 0, 0,
+                         translate("saving and loading again does not give the same job"), QString()});
+    else if (text != document->loadedText())
+        findings.append({Finding::NOTE, document->path(), 0, 0,
+                         translate("saving brings the file into our layout"),
+                         translate("Nothing that it says is changed.")});
+    const JobXml::Job& job = document->job();
+    const JEDVE::enJOB_TYPE jobType =
+        JEDCommonHelper::jobXmlTypeToJobType(job.GetJobInformation().GetJobType());
+    for (int i = 0; i < job.GetSubjob().size(); ++i)
+        SubjobChecker(document->path(), i + 1, job.GetSubjob().at(i), &findings).check(resources, jobType);
+    return findings;
+}
+
+} // namespace Session

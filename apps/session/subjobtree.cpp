@@ -1,0 +1,75 @@
+#include "subjobtree.h"
+
+#include <componentdescriptor.h>
+#include <jobxml/parametersettext.h>
+#include <jobxml/tunerproperties.h>
+#include <resourcedescription.h>
+#include <values/node.h>
+
+namespace {
+QString setOf(const QString& path)
+{
+    return path.section(QLatin1Char('/'), 0, 0);
+}
+
+QString fieldOf(const QString& path)
+{
+    return path.section(QLatin1Char('/'), 1);
+}
+} // namespace
+
+namespace Session {
+
+SubjobTree::SubjobTree()
+    : m_root(std::make_unique<Node>())
+{
+}
+
+SubjobTree::~SubjobTree() = default;
+
+void SubjobTree::build(const JEDVEPLUGIN::ResourceDescription& resource)
+{
+    m_root = std::make_unique<Node>();
+    m_mandatorySets.clear();
+    for (const auto& component : resource.getComponents()) {
+        component->createVTConfig(m_root.get());
+        if (component->isOptional())
+            continue;
+        for (const JobXml::Node& node : component->getVtNodes())
+            m_mandatorySets.insert(node.Getid());
+    }
+}
+
+QVector<Node*> SubjobTree::sets() const
+{
+    return m_root->GetChildNodes();
+}
+
+Node* SubjobTree::set(const QString& name) const
+{
+    return m_root->GetChildNode(name);
+}
+
+ValueBase* SubjobTree::value(const QString& path) const
+{
+    const Node* const node = set(setOf(path));
+    ValueBase* const found = node ? node->GetChild(fieldOf(path)) : nullptr;
+    return found && !found->IsNode() ? found : nullptr;
+}
+
+QStringList SubjobTree::valuePaths() const
+{
+    QStringList result;
+    for (const Node* node : sets()) {
+        for (const ValueBase* value : node->GetValues())
+            result.append(node->GetId() + QLatin1Char('/') + value->GetId());
+    }
+    return result;
+}
+
+const REPORTGENERATOR::Field* SubjobTree::field(const QString& path)
+{
+    return JobXml::ParameterSetText::field(setOf(path), fieldOf(path));
+}
+
+} // namespace Session

@@ -1,0 +1,140 @@
+#include "tuneritem.h"
+
+#include <iterator>
+#include <jobxml/tunerproperties.h>
+#include <QCoreApplication>
+#include <QVariant>
+#include <reportlayer/elementtable.h>
+#include <values/formats.h>
+
+using Session::TunerItem;
+
+namespace {
+QString translate(const char* source)
+{
+    return QCoreApplication::translate("Session::TunerItem", source);
+}
+
+template <typename Item>
+TunerItem plain(const Item& item)
+{
+    TunerItem result;
+    result.id = item.Getid();
+    return result;
+}
+
+template <typename Item>
+TunerItem number(const Item& item)
+{
+    TunerItem result = plain(item);
+    result.isNumber = true;
+    result.value = double(item.Getvalue());
+    return result;
+}
+
+template <typename Item>
+TunerItem numeric(const Item& item)
+{
+    TunerItem result = number(item);
+    result.hasRange = true;
+    result.minimum = double(item.Getmin());
+    result.maximum = double(item.Getmax());
+    result.step = double(item.Getstep());
+    return result;
+}
+
+TunerItem selection(const JobXml::ValueSelection& item)
+{
+    TunerItem result = plain(item);
+    result.isSelection = true;
+    result.value = item.Getindex();
+    for (const JobXml::SelectionItem& choice : item.GetSelectionItem())
+        result.items.append(choice.Getname());
+    return result;
+}
+
+// By the number of the choice.
+TunerItem (*const READERS[])(const JobXml::ValueItem&) = {
+    [](const JobXml::ValueItem& item) { return plain(item.GetValueBoolean()); },
+    [](const JobXml::ValueItem& item) { return number(item.GetValueFloat()); },
+    [](const JobXml::ValueItem& item) { return number(item.GetValueInt()); },
+    [](const JobXml::ValueItem& item) { return number(item.GetValueInt64()); },
+    [](const JobXml::ValueItem& item) { return numeric(item.GetValueNumericFloat()); },
+    [](const JobXml::ValueItem& item) { return numeric(item.GetValueNumericInt()); },
+    [](const JobXml::ValueItem& item) { return numeric(item.GetValueNumericInt64()); },
+    [](const JobXml::ValueItem& item) { return selection(item.GetValueSelection()); },
+    [](const JobXml::ValueItem& item) { return plain(item.GetValueString()); },
+    [](const JobXml::ValueItem& item) { return plain(item.GetValueStringList()); },
+};
+
+QString rangeText(double minimum, double maximum)
+{
+    return QStringLiteral("%1 … %2").arg(ValueText::fromDouble(minimum), ValueText::fromDouble(maximum));
+}
+
+QStringList rangeFaults(const TunerItem& item)
+{
+    const QString range = rangeText(item.minimum, item.maximum);
+    QStringList result;
+    if (item.minimum > item.maximum)
+        result.append(translate("the range %1 is empty").arg(range));
+    else if (item.value < item.minimum || item.value > item.maximum)
+        result.append(translate("the default %1 is outside the range %2")
+                          .arg(ValueText::fromDouble(item.value), range));
+    if (item.step < 0)
+        result.append(translate("the step %1 is negative").arg(ValueText::fromDouble(item.step)));
+    return result;
+}
+
+QStringList fieldRangeFaults(const TunerItem& item, const REPORTGENERATOR::Field& field)
+{
+    const double minimum = field.minimum().toDouble();
+    const double maximum = field.maximum().toDouble();
+    const double low = item.hasRange ? item.minimum : item.value;
+    const double high = item.hasRange ? item.maximum : item.value;
+    if (low >= minimum && high <= maximum)
+        return {};
+    const QString range = rangeText(minimum, maximum);
+    if (item.hasRange)
+        return {translate("the range %1 reaches beyond %2, which a job file can hold")
+                    .arg(rangeText(low, high), range)};
+    return {translate("the default %1 is outside %2, which a job file can hold")
+                .arg(ValueText::fromDouble(low), range)};
+}
+
+QStringList selectionFaults(const TunerItem& item, const REPORTGENERATOR::Field& field)
+{
+    QStringList result;
+    if (item.value < 0 || item.value >= item.items.size())
+        result.append(translate("the default is item %1 of %2")
+                          .arg(ValueText::fromDouble(item.value), QString::number(item.items.size())));
+    for (const QString& name : item.items) {
+        if (field.enumeration && field.enumeration->number(name) < 0)
+            result.append(translate("the item \"%1\" is none of %2")
+                              .arg(name, field.enumeration->allNames().join(QLatin1String(", "))));
+    }
+    return result;
+}
+} // namespace
+
+namespace Session {
+
+TunerItem tunerItem(const JobXml::ValueItem& item)
+{
+    const int choice = item.GetChoiceValueItem();
+    return choice >= 0 && choice < int(std::size(READERS)) ? READERS[choice](item) : TunerItem();
+}
+
+QStringList tunerItemFaults(const TunerItem& item, const REPORTGENERATOR::Field& field)
+{
+    QStringList result;
+    if (item.isSelection)
+        result += selectionFaults(item, field);
+    if (item.hasRange)
+        result += rangeFaults(item);
+    if (item.isNumber && field.isNumber())
+        result += fieldRangeFaults(item, field);
+    return result;
+}
+
+} // namespace Session
