@@ -29,6 +29,9 @@ const char* const EXAMPLES =
 const char* const EXIT_CODES =
     QT_TRANSLATE_NOOP("jedtool", "Exit codes: 0 clean, 1 findings, 2 wrong usage, 3 internal fault\n");
 
+const char* const TRACES = QT_TRANSLATE_NOOP(
+    "jedtool", "QT_LOGGING_RULES=jobeditorve.trace=true in the environment shows what the library traces.\n");
+
 const QVector<Noun>& nouns()
 {
     static const QVector<Noun> all{resourcesNoun(), jobNoun()};
@@ -94,7 +97,7 @@ QString programHelp()
                      "Looks at the receivers of an installation; composes, shows and checks jobs.\n\n") +
            translate("Nouns:\n") + summaries(nouns()) + translate("\nOptions of every verb:\n") +
            optionsHelp(COMMON_OPTIONS) + QLatin1Char('\n') + translate(EXAMPLES) + QLatin1Char('\n') +
-           translate(EXIT_CODES) + translate("Next: jedtool NOUN --help\n");
+           translate(EXIT_CODES) + translate(TRACES) + translate("Next: jedtool NOUN --help\n");
 }
 
 QString nounHelp(const Noun& noun)

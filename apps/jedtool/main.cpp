@@ -1,6 +1,7 @@
 #include "commandline.h"
 
 #include <exception>
+#include <memory>
 #include <QApplication>
 #include <QLoggingCategory>
 #include <session/headlessdialogs.h>
@@ -11,31 +12,25 @@
 
 namespace {
 // What Qt's platform plug-ins and font libraries allocate once per process and never free is no leak of ours.
-class LeaksOfTheFramework
+std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 {
-public:
 #if defined(__SANITIZE_ADDRESS__)
-    LeaksOfTheFramework()
-    {
-        __lsan_disable();
-    }
-    ~LeaksOfTheFramework()
-    {
-        __lsan_enable();
-    }
+    const __lsan::ScopedDisabler ignored;
 #endif
-};
+    // A tool needs no runtime folder, so it does not matter that there may be none.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    auto application = std::make_unique<QApplication>(argc, argv);
+    // Traces are for those who ask for them with QT_LOGGING_RULES, which comes before these rules.
+    QLoggingCategory::setFilterRules(QStringLiteral("jobeditorve.trace=false"));
+    return application;
+}
 } // namespace
 
 int main(int argc, char** argv)
 {
     // The library asks for an application that can show message boxes; there is no screen to show them on.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    std::unique_ptr<QApplication> application;
-    {
-        const LeaksOfTheFramework ignored;
-        application = std::make_unique<QApplication>(argc, argv);
-    }
+    const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     const Session::HeadlessDialogs dialogs;
     try {
         return JedTool::runCommandLine(application->arguments().mid(1));

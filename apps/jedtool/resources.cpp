@@ -1,6 +1,7 @@
 #include "commandline.h"
 #include "resourcetext.h"
 
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <session/installation.h>

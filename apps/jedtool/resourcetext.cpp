@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <componentdescriptor.h>
+#include <reportlayer/elementtable.h>
 #include <session/jobplaces.h>
 #include <session/subjobtree.h>
 #include <session/texttable.h>

@@ -214,10 +214,8 @@ JobXml::Subjob JobComposer::composeSubjob(const Subjob& draft, const QString& pl
     resource.SetType(JobXml::ResourceDescription::NameToType(draft.resource->getType()));
     resource.SetBaseResource(draft.resource->getBaseResource());
     resource.SetName(draft.resource->getName());
-    for (const Node* set : draft.tree.sets()) {
-        if (draft.chosenSets.contains(set->GetId()) || !draft.tree.isOptional(set->GetId()))
-            composeSet(*set, place, &subjob, findings);
-    }
+    for (const Node* set : draft.tree.setsInUse(draft.chosenSets))
+        composeSet(*set, place, &subjob, findings);
     return subjob;
 }
 

@@ -54,7 +54,7 @@ public:
 
     int subjobCount() const { return int(m_subjobs.size()); }
 
-    /// Builds the job. Parameter sets of optional components are written only if one of their values was set. What a
+    /// Builds the job. Optional components count when one of their values was set. What a
     /// job file cannot hold is a finding.
     /// \return false if no job was begun
     bool compose(JobDocument* document, Findings* findings);

@@ -4,115 +4,112 @@
 #include "quantity.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 #include <QJsonArray>
-#include <QXmlStreamReader>
-#include <reportlayer/irgobject.h>
+#include <reportlayer/fieldaccess.h>
 
-using REPORTGENERATOR::ElementTable;
+using REPORTGENERATOR::childElement;
 using REPORTGENERATOR::Field;
+using REPORTGENERATOR::FieldKind;
+using REPORTGENERATOR::IRGObject;
 
 namespace {
 constexpr int INDENT = 2;
 constexpr int VALUE_COLUMN = 36;
 
-const Field* findField(const ElementTable* table, const QString& name)
+QString readable(const Field& field, const QString& text)
 {
-    const int index = table ? table->fieldIndex(name) : -1;
-    return index < 0 ? nullptr : &table->fields[index];
-}
-
-QString readable(const Field* field, const QString& text)
-{
-    const int number = field && field->enumeration ? field->enumeration->number(text) : -1;
-    if (number >= 0)
-        return field->enumeration->guiText(number);
-    return field ? Session::readableQuantity(text, field->unit()) : text;
+    const int number = field.enumeration ? field.enumeration->number(text) : -1;
+    return number < 0 ? Session::readableQuantity(text, field.unit()) : field.enumeration->guiText(number);
 }
 
 QString line(int indent, const QString& label, const QString& value)
 {
-    QString result = QString(indent, QLatin1Char(' ')) + label;
-    if (!value.isEmpty())
-        result = result.leftJustified(std::max(VALUE_COLUMN, result.size() + 2)) + value;
-    return result + QLatin1Char('\n');
+    const QString start = QString(indent, QLatin1Char(' ')) + label;
+    if (value.isEmpty())
+        return start + QLatin1Char('\n');
+    return start.leftJustified(std::max(VALUE_COLUMN, start.size() + 2)) + value.simplified() +
+           QLatin1Char('\n');
 }
 
-// "Tuner (TunerSettings)" for a parameter set, else the field's label; what no table knows keeps its name.
-QString title(const Field* field, const QString& name)
+// "Tuner (TunerSettings)" for a parameter set, else the field's label.
+QString title(const Field& field)
 {
-    if (!field)
-        return name;
     const REPORTGENERATOR::ParameterSet* set =
-        field->element ? Session::findParameterSet(*field->element) : nullptr;
-    return set ? QStringLiteral("%1 (%2)").arg(set->label(), QLatin1String(set->name)) : field->label();
+        field.element ? Session::findParameterSet(*field.element) : nullptr;
+    return set ? QStringLiteral("%1 (%2)").arg(set->label(), QLatin1String(set->name)) : field.label();
 }
 
-// The element that the reader has just entered, down to its end.
-void appendText(QXmlStreamReader* reader, const ElementTable* table, int indent, QString* result)
+QStringList readableTexts(const IRGObject& element, const Field& field, const QString& name)
 {
-    for (const QXmlStreamAttribute& attribute : reader->attributes()) {
-        const Field* field = findField(table, attribute.name().toString());
-        *result += line(indent, title(field, attribute.name().toString()),
-                        readable(field, attribute.value().toString()));
-    }
-    while (reader->readNextStartElement()) {
-        const QString name = reader->name().toString();
-        const Field* field = findField(table, name);
-        if (field && field->element) {
-            *result += line(indent, title(field, name), QString());
-            appendText(reader, field->element, indent + INDENT, result);
-        } else {
-            const QString text = reader->readElementText(QXmlStreamReader::SkipChildElements);
-            *result += line(indent, title(field, name), readable(field, text.simplified()));
-        }
-    }
-}
-
-void insert(QJsonObject* object, const QString& name, const QJsonValue& value, bool isList)
-{
-    if (!isList) {
-        object->insert(name, value);
-        return;
-    }
-    QJsonArray list = object->value(name).toArray();
-    list.append(value);
-    object->insert(name, list);
-}
-
-QJsonObject takeJson(QXmlStreamReader* reader, const ElementTable* table)
-{
-    QJsonObject result;
-    for (const QXmlStreamAttribute& attribute : reader->attributes())
-        result.insert(attribute.name().toString(), attribute.value().toString());
-    while (reader->readNextStartElement()) {
-        const QString name = reader->name().toString();
-        const Field* field = findField(table, name);
-        const QJsonValue value =
-            field && field->element
-                ? QJsonValue(takeJson(reader, field->element))
-                : QJsonValue(reader->readElementText(QXmlStreamReader::SkipChildElements));
-        insert(&result, name, value, field && field->list);
-    }
+    QStringList result;
+    for (const QString& text : REPORTGENERATOR::fieldTexts(element, name))
+        result.append(readable(field, text));
     return result;
+}
+
+QString itemName(const QString& list, int number)
+{
+    return QStringLiteral("%1[%2]").arg(list, QString::number(number));
+}
+
+QJsonValue jsonValue(const Field& field, const QString& text)
+{
+    if (field.kind == FieldKind::Boolean)
+        return text == QLatin1String("true");
+    return field.isNumber() ? QJsonValue(text.toDouble()) : QJsonValue(text);
+}
+
+QJsonValue jsonOfField(const IRGObject& element, const Field& field, const QString& name)
+{
+    if (!field.list && field.element)
+        return Session::outlineJson(*childElement(element, name));
+    QJsonArray items;
+    for (int i = 0; field.element && i < REPORTGENERATOR::itemCount(element, name); ++i)
+        items.append(Session::outlineJson(*childElement(element, itemName(name, i))));
+    if (field.element)
+        return items;
+    for (const QString& text : REPORTGENERATOR::fieldTexts(element, name))
+        items.append(jsonValue(field, text));
+    return field.list ? QJsonValue(items) : items.at(0);
 }
 } // namespace
 
 namespace Session {
 
-QString outlineText(const REPORTGENERATOR::IRGObject& element, int indent)
+QString outlineText(const IRGObject& element, int indent)
 {
     QString result;
-    QXmlStreamReader reader(element.GetXmlString(false));
-    if (reader.readNextStartElement())
-        appendText(&reader, &element.table(), indent, &result);
+    for (int i = 0; i < element.table().fieldCount; ++i) {
+        const Field& field = element.table().fields[i];
+        const QString name = QLatin1String(field.name);
+        if (!REPORTGENERATOR::isFieldSet(element, name))
+            continue;
+        if (!field.element) {
+            result +=
+                line(indent, title(field), readableTexts(element, field, name).join(QLatin1String(", ")));
+        } else if (!field.list) {
+            result += line(indent, title(field), QString()) +
+                      outlineText(*childElement(element, name), indent + INDENT);
+        }
+        for (int item = 0; field.element && field.list && item < REPORTGENERATOR::itemCount(element, name);
+             ++item) {
+            result += line(indent, title(field) + QLatin1Char(' ') + QString::number(item + 1), QString()) +
+                      outlineText(*childElement(element, itemName(name, item)), indent + INDENT);
+        }
+    }
     return result;
 }
 
-QJsonObject outlineJson(const REPORTGENERATOR::IRGObject& element)
+QJsonObject outlineJson(const IRGObject& element)
 {
-    QXmlStreamReader reader(element.GetXmlString(false));
-    return reader.readNextStartElement() ? takeJson(&reader, &element.table()) : QJsonObject();
+    QJsonObject result;
+    for (int i = 0; i < element.table().fieldCount; ++i) {
+        const Field& field = element.table().fields[i];
+        const QString name = QLatin1String(field.name);
+        if (REPORTGENERATOR::isFieldSet(element, name))
+            result.insert(name, jsonOfField(element, field, name));
+    }
+    return result;
 }
 
 } // namespace Session

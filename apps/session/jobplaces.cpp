@@ -4,12 +4,10 @@
 
 #include <jobxml/job.h>
 #include <jobxmlhandler.h>
-#include <memory>
 #include <QXmlStreamReader>
+#include <reportlayer/fieldaccess.h>
 
 using JEDVEPLUGIN::JobXmlHandler;
-using REPORTGENERATOR::ElementTable;
-using REPORTGENERATOR::Field;
 
 namespace {
 // The sets that belong to the sub-job itself, not to its block of settings.
@@ -28,34 +26,17 @@ bool belongsToSubjob(const QString& name)
     return false;
 }
 
-const ElementTable* childTable(const ElementTable& table, const QString& name)
+// The parameter sets that are set among the children of an element.
+void collectSets(const REPORTGENERATOR::IRGObject& parent, QList<Session::CarriedSet>* sets)
 {
-    const int index = table.fieldIndex(name);
-    return index < 0 ? nullptr : table.fields[index].element;
-}
-
-// The element that the reader has just entered, alone and in the layout that elements are written in.
-QString takeElement(QXmlStreamReader* reader, const QString& text, const ElementTable& table)
-{
-    // No "<" may stand inside a tag, so the last one before the reader's place begins the tag.
-    const int start = text.lastIndexOf(QLatin1Char('<'), int(reader->characterOffset()) - 1);
-    reader->skipCurrentElement();
-    const std::unique_ptr<REPORTGENERATOR::IRGObject> element(table.create());
-    element->SetXmlString(text.mid(start, int(reader->characterOffset()) - start), false);
-    return element->GetXmlString(false);
-}
-
-// The parameter sets among the children of the element that the reader has just entered.
-void collectSets(QXmlStreamReader* reader, const QString& text, const ElementTable& table,
-                 QList<Session::CarriedSet>* sets)
-{
-    while (reader->readNextStartElement()) {
-        const ElementTable* child = childTable(table, reader->name().toString());
-        const REPORTGENERATOR::ParameterSet* set = child ? Session::findParameterSet(*child) : nullptr;
-        if (set)
-            sets->append({set, takeElement(reader, text, *child)});
-        else
-            reader->skipCurrentElement();
+    const REPORTGENERATOR::ElementTable& table = parent.table();
+    for (int i = 0; i < table.fieldCount; ++i) {
+        const REPORTGENERATOR::Field& field = table.fields[i];
+        const QString name = QLatin1String(field.name);
+        const REPORTGENERATOR::ParameterSet* set =
+            field.element ? Session::findParameterSet(*field.element) : nullptr;
+        if (set && REPORTGENERATOR::isFieldSet(parent, name))
+            sets->append({set, REPORTGENERATOR::childElement(parent, name)->GetXmlString(false)});
     }
 }
 
@@ -77,14 +58,8 @@ namespace Session {
 QList<CarriedSet> carriedSets(const JobXml::Subjob& subjob)
 {
     QList<CarriedSet> sets;
-    for (const REPORTGENERATOR::IRGObject* part :
-         {static_cast<const REPORTGENERATOR::IRGObject*>(&subjob),
-          static_cast<const REPORTGENERATOR::IRGObject*>(&subjob.GetSettings())}) {
-        const QString text = part->GetXmlString(false);
-        QXmlStreamReader reader(text);
-        if (reader.readNextStartElement())
-            collectSets(&reader, text, part->table(), &sets);
-    }
+    collectSets(subjob, &sets);
+    collectSets(subjob.GetSettings(), &sets);
     return sets;
 }
 

@@ -9,6 +9,7 @@
 #include <jedcommonhelper.h>
 #include <jobxml/parametersettext.h>
 #include <QCoreApplication>
+#include <QSet>
 #include <values/node.h>
 
 using JEDVEPLUGIN::JEDCommonHelper;
@@ -76,9 +77,12 @@ private:
     {
         Session::SubjobTree tree;
         tree.build(resource);
-        for (const Session::CarriedSet& carried : Session::carriedSets(m_subjob))
+        QSet<QString> names;
+        for (const Session::CarriedSet& carried : Session::carriedSets(m_subjob)) {
             checkRoundTrip(&tree, carried);
-        for (const Node* set : tree.sets()) {
+            names.insert(QLatin1String(carried.set->name));
+        }
+        for (const Node* set : tree.setsInUse(names)) {
             if (!Session::isCarriedByJobFile(set->GetId()))
                 warn(translate("the receiver has %1, which a job file cannot hold").arg(set->GetId()),
                      translate("The receiver keeps the values that it has."));

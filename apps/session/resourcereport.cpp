@@ -49,19 +49,13 @@ public:
 private:
     void examineComponent(const JobXml::Component& component, const QString& path)
     {
-        const QStringList sets = ParameterSetMapper::getParameterSetNames(component.Getname());
-        if (sets.isEmpty()) {
+        if (ParameterSetMapper::getParameterSetNames(component.Getname()).isEmpty()) {
             warn(path, translate("no component is called \"%1\"").arg(component.Getname()),
                  Session::suggestion(component.Getname(), Session::componentNames()));
         }
         for (int i = 0; i < component.GetNode().size(); ++i) {
             const JobXml::Node& node = component.GetNode().at(i);
             const QString nodePath = QStringLiteral("%1/Node:%2").arg(path, QString::number(i));
-            if (!sets.isEmpty() && !sets.contains(node.Getid()))
-                warn(nodePath,
-                     translate("%1 does not supply the parameter set \"%2\"")
-                         .arg(component.Getname(), node.Getid()),
-                     translate("It supplies %1.").arg(sets.join(QLatin1String(", "))));
             examineNode(node, nodePath);
         }
     }

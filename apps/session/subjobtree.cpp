@@ -1,5 +1,6 @@
 #include "subjobtree.h"
 
+#include <algorithm>
 #include <componentdescriptor.h>
 #include <jobxml/parametersettext.h>
 #include <jobxml/tunerproperties.h>
@@ -31,18 +32,37 @@ void SubjobTree::build(const JEDVEPLUGIN::ResourceDescription& resource)
 {
     m_root = std::make_unique<Node>();
     m_mandatorySets.clear();
+    m_optionalSets.clear();
     for (const auto& component : resource.getComponents()) {
         component->createVTConfig(m_root.get());
-        if (component->isOptional())
-            continue;
+        QStringList sets;
         for (const JobXml::Node& node : component->getVtNodes())
-            m_mandatorySets.insert(node.Getid());
+            sets.append(node.Getid());
+        (component->isOptional() ? m_optionalSets : m_mandatorySets).append(sets);
     }
 }
 
 QVector<Node*> SubjobTree::sets() const
 {
     return m_root->GetChildNodes();
+}
+
+QVector<Node*> SubjobTree::setsInUse(const QSet<QString>& touched) const
+{
+    QStringList used;
+    for (const QStringList& component : m_mandatorySets)
+        used += component;
+    for (const QStringList& component : m_optionalSets) {
+        if (std::any_of(component.begin(), component.end(),
+                        [&](const QString& set) { return touched.contains(set); }))
+            used += component;
+    }
+    QVector<Node*> result;
+    for (Node* node : sets()) {
+        if (used.contains(node->GetId()))
+            result.append(node);
+    }
+    return result;
 }
 
 Node* SubjobTree::set(const QString& name) const

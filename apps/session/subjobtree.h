@@ -33,8 +33,9 @@ public:
     QVector<Node*> sets() const;
     /// Null if the receiver does not supply a set of that name.
     Node* set(const QString& name) const;
-    /// Whether only optional components supply the set.
-    bool isOptional(const QString& set) const { return !m_mandatorySets.contains(set); }
+    /// Those that a job writes: of components that are not optional, and of optional ones when one of their sets is
+    /// among \p touched.
+    QVector<Node*> setsInUse(const QSet<QString>& touched) const;
 
     /// Null if there is none.
     ValueBase* value(const QString& path) const;
@@ -45,7 +46,8 @@ public:
 
 private:
     std::unique_ptr<Node> m_root;
-    QSet<QString> m_mandatorySets;
+    QVector<QStringList> m_mandatorySets; // Of each component that is not optional.
+    QVector<QStringList> m_optionalSets;  // Of each optional component.
 };
 
 } // namespace Session
