@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QApplication>
+#include <QtTest/qtest_widgets.h>
 #include <QtTest>
+#include <QtWidgets/qtestsupport_widgets.h>
 
 #include <memory>
 
