@@ -10,7 +10,8 @@
 #include <memory>
 #include <vector>
 
-// The value tree: a change of a value that two observers hear of, and the making and deleting of values in a node.
+// The value tree: a change of a value that two observers hear of, and the making and deleting of values and nodes
+// in a node.
 
 namespace {
 
@@ -28,7 +29,7 @@ private:
     int m_sum = 0;
 };
 
-/// The yardstick that a straightforward reading gives: tell a copy of the list and skip whoever is gone meanwhile.
+/// The yardstick that a straightforward reading gives: tell a copy of the list and skip who is gone meanwhile.
 class NaiveValue
 {
 public:
