@@ -10,8 +10,8 @@
 #include <memory>
 #include <vector>
 
-// The value tree: a change of a value that two observers hear of, and the making and deleting of values and nodes
-// in a node.
+// The value tree: a change of a value that two observers hear of, and the making and deleting of
+// values and nodes in a node.
 
 namespace {
 
@@ -29,7 +29,7 @@ private:
     int m_sum = 0;
 };
 
-/// The yardstick that a straightforward reading gives: tell a copy of the list and skip who is gone meanwhile.
+/// The yardstick that a straightforward reading gives: tell a copy of the list, skip who is gone meanwhile.
 class NaiveValue
 {
 public:
