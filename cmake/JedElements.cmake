@@ -1,5 +1,5 @@
 # jed_generate_elements(<target> NAMESPACE <name> SCHEMAS <file>...)
-# Adds the classes of the file elements that the schemas describe; they are made at build time, one header and one
+# Adds the classes of the file elements that the schemas describe. They are made at build time, one header and one
 # source for each schema, below <build>/generated/<target>.
 function(jed_generate_elements target)
     cmake_parse_arguments(ARG "" "NAMESPACE" "SCHEMAS" ${ARGN})

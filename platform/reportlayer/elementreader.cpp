@@ -107,8 +107,8 @@ bool isReal(FieldKind kind)
     return kind == FieldKind::Float || kind == FieldKind::Double;
 }
 
-// A value that converts may still break the schema. Dates are not looked into here, and validators do not agree about
-// blanks round a number.
+// A value that converts may still break the schema. Dates are not looked into here, and validators do not
+// agree about blanks round a number.
 bool isSurelyValid(const Field& field, const QStringRef& text, const FieldValue& value)
 {
     if (field.kind == FieldKind::String || field.kind == FieldKind::Enumeration)

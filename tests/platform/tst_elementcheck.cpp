@@ -56,10 +56,11 @@ public:
     {
         const QByteArray bytes = text.toUtf8();
         const std::unique_ptr<xmlDoc, decltype(&xmlFreeDoc)> document(
-            xmlReadMemory(bytes.constData(), bytes.size(), nullptr, "UTF-8", XML_PARSE_NOERROR | XML_PARSE_NOWARNING),
+            xmlReadMemory(bytes.constData(), bytes.size(), nullptr, "UTF-8",
+                          XML_PARSE_NOERROR | XML_PARSE_NOWARNING),
             xmlFreeDoc);
-        const std::unique_ptr<xmlSchemaValidCtxt, decltype(&xmlSchemaFreeValidCtxt)> run(xmlSchemaNewValidCtxt(m_schema),
-                                                                                        xmlSchemaFreeValidCtxt);
+        const std::unique_ptr<xmlSchemaValidCtxt, decltype(&xmlSchemaFreeValidCtxt)> run(
+            xmlSchemaNewValidCtxt(m_schema), xmlSchemaFreeValidCtxt);
         xmlSchemaSetValidStructuredErrors(run.get(), ignore, nullptr);
         return document && xmlSchemaValidateDoc(run.get(), document.get()) == 0;
     }
@@ -342,7 +343,8 @@ void TstElementCheck::dateIsLeftToTheSchema()
     QCOMPARE(station.GetCreated(), QString("2024-02-29T10:00:00Z"));
 }
 
-// Most texts that keep to the schema are recognised while they are read; the verdict must be that of the schema.
+// Most texts that keep to the schema are recognised while they are read. The verdict must be that of the
+// schema.
 void TstElementCheck::randomTextsGetTheSameVerdict()
 {
     const Judge judge;
