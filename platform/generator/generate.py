@@ -150,7 +150,7 @@ class Emitter:
         for part in schema.included + [schema]:
             lines += ["extern const EnumTable %s;" % entry.name for entry in part.simples if entry.values]
             lines += ["extern const ElementTable %s;" % entry.name for entry in part.classes]
-        lines += array("const char* const SCHEMA_LINES[]", map(literal, flat_schema(schema)))
+        lines += array("constexpr const char* SCHEMA_LINES[]", map(literal, flat_schema(schema)))
         lines += ["constexpr SchemaText SCHEMA = {%s, SCHEMA_LINES, std::size(SCHEMA_LINES), %s};"
                   % (literal(schema.file), literal(schema.version))]
         for entry in (entry for entry in schema.simples if entry.values):
@@ -171,16 +171,17 @@ class Emitter:
         return lines + ["%s { %s }" % pair for pair in pairs] + ["} // namespace %s" % self.namespace]
 
     def enumeration(self, entry):
-        lines = array("const char* const %s_NAMES[]" % entry.name, [literal(name) for name, _ in entry.values])
-        lines += array("const char* const %s_TEXTS[]" % entry.name, [self.translated(gui) for _, gui in entry.values])
+        lines = array("constexpr const char* %s_NAMES[]" % entry.name, [literal(name) for name, _ in entry.values])
+        lines += array("constexpr const char* %s_TEXTS[]" % entry.name, [self.translated(t) for _, t in entry.values])
         return lines + ['constexpr EnumTable {0} = {{"{1}", {0}_NAMES, {0}_TEXTS, {2}}};'.format(
             entry.name, self.namespace, len(entry.values))]
 
     def table(self, entry):
-        lines = array("const char* const %s_ACCEPTED[]" % entry.name, map(literal, self.names(entry)))
+        lines = array("constexpr const char* %s_ACCEPTED[]" % entry.name, map(literal, self.names(entry)))
         if entry.fields:
             lines += array("constexpr Field %s_FIELDS[]" % entry.name, map(self.row, entry.fields))
-        text = "{0}_FIELDS, {1}, requiredFieldsOf({0}_FIELDS)" if entry.fields else "nullptr, 0, 0"
+        text = "{0}_FIELDS, {1}, requiredFieldsOf({0}_FIELDS), elementFieldsOf({0}_FIELDS)"
+        text = text if entry.fields else "nullptr, 0, 0, 0"
         text = ('constexpr ElementTable {0} = {{"{0}", {0}_ACCEPTED[0], {0}_ACCEPTED, std::size({0}_ACCEPTED), ' + text
                 + ", {2}, {3}, &SCHEMA, &createElement<{4}::{0}>, &sharedElement<{4}::{0}>}};")
         flags = [str(flag).lower() for flag in (entry.choice, entry.name in self.roots)]
@@ -197,8 +198,7 @@ class Emitter:
         for limit in ("minimum", "maximum") if not field.complex else ():
             if getattr(field.type, limit) is not None:
                 given += [("has" + limit.capitalize(), "true"), (limit + number, getattr(field.type, limit))]
-        if field.complex or field.kind == "Enumeration":
-            given.append((field.kind.lower(), "&" + field.type.name))
+        given += [(field.kind.lower(), "&" + field.type.name)] * (field.complex or field.kind == "Enumeration")
         if field.list:
             own = field.type.name if field.complex else field.owner.name + "::" + field.name
             item = CPP_TYPES.get(field.kind, self.namespace + "::" + own)

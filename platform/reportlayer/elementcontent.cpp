@@ -10,7 +10,7 @@ namespace {
 
 bool holdsText(const Field& field)
 {
-    return field.kind == FieldKind::String || field.kind == FieldKind::DateTime;
+    return !field.list && (field.kind == FieldKind::String || field.kind == FieldKind::DateTime);
 }
 
 bool isSingleElement(const Field& field)
@@ -24,17 +24,10 @@ IRGObject::Cell* IRGObject::makeCells()
 {
     m_cells = new Cell[static_cast<size_t>(m_table->fieldCount)];
     for (int i = 0; i < m_table->fieldCount; ++i) {
-        const Field& field = m_table->fields[i];
-        if (field.list)
-            m_cells[i].list = nullptr;
-        else if (holdsText(field))
+        if (holdsText(m_table->fields[i]))
             new (&m_cells[i].text) QString;
-        else if (field.kind == FieldKind::Element)
-            m_cells[i].element = nullptr;
-        else if (field.kind == FieldKind::Float || field.kind == FieldKind::Double)
-            m_cells[i].real = 0.0;
         else
-            m_cells[i].integer = 0;
+            m_cells[i].integer = 0; // and with it no element and no list
     }
     return m_cells;
 }
@@ -49,7 +42,7 @@ void IRGObject::destroyCells()
             field.listOperations->destroy(m_cells[i].list);
         else if (isSingleElement(field))
             delete m_cells[i].element;
-        else if (!field.list && holdsText(field))
+        else if (holdsText(field))
             m_cells[i].text.~QString();
     }
     delete[] m_cells;
@@ -72,7 +65,7 @@ void IRGObject::resetContent()
             field.listOperations->assign(m_cells[i].list, field.listOperations->emptyList());
         else if (isSingleElement(field) && m_cells[i].element)
             m_cells[i].element->resetContent();
-        else if (!field.list && holdsText(field))
+        else if (holdsText(field))
             m_cells[i].text = QString();
     }
 }
@@ -122,7 +115,7 @@ void IRGObject::takeContent(IRGObject& other)
                 ours.element->takeContent(*theirs.element);
             else if (isSingleElement(field) && ours.element)
                 ours.element->resetContent();
-            else if (!field.list && holdsText(field))
+            else if (holdsText(field))
                 ours.text.swap(theirs.text);
             else
                 std::swap(ours.integer, theirs.integer);
@@ -185,18 +178,24 @@ bool IRGObject::isSet() const
 
 bool IRGObject::isChangedWithin() const
 {
-    const auto differs = [](const IRGObject* child) { return child->m_replaced || child->isChangedWithin(); };
-    bool result = m_changed;
-    for (int i = 0; m_cells && !result && i < m_table->fieldCount; ++i) {
-        const Field& row = m_table->fields[i];
-        if (row.kind != FieldKind::Element)
+    if (m_changed)
+        return true;
+    const auto differs = [](const IRGObject* child) {
+        return child->m_replaced || child->m_changed ||
+               (child->m_table->elementFields && child->isChangedWithin());
+    };
+    for (int i = 0; m_cells && i < m_table->fieldCount; ++i) {
+        if (((m_table->elementFields >> i) & 1U) == 0)
             continue;
-        if (!row.list)
-            result = m_cells[i].element && differs(m_cells[i].element);
-        for (int k = itemCount(i) - 1; k >= 0 && !result; --k)
-            result = differs(row.listOperations->element(m_cells[i].list, k));
+        const Field& row = m_table->fields[i];
+        if (!row.list && m_cells[i].element && differs(m_cells[i].element))
+            return true;
+        for (int k = row.list ? itemCount(i) - 1 : -1; k >= 0; --k) {
+            if (differs(row.listOperations->element(m_cells[i].list, k)))
+                return true;
+        }
     }
-    return result;
+    return false;
 }
 
 int IRGObject::itemCount(int field) const

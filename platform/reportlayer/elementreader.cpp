@@ -88,8 +88,7 @@ int findField(const ElementTable& table, const QStringRef& name, int guess, bool
     for (int i = 0; i < table.fieldCount; ++i) {
         const int at = guess + i < table.fieldCount ? guess + i : guess + i - table.fieldCount;
         const Field& field = table.fields[at];
-        if (field.nameLength == name.size() && field.attribute == attribute &&
-            name == QLatin1String(field.name, field.nameLength))
+        if (field.attribute == attribute && isSame(name, field.name, field.nameLength))
             return at;
     }
     return -1;

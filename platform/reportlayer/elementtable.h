@@ -127,6 +127,7 @@ struct REPORTLAYER_EXPORT ElementTable
     const Field* fields;
     int fieldCount;
     quint64 requiredFields; // a bit for each field that a valid element has
+    quint64 elementFields;  // a bit for each field that holds elements
     bool choice;            // at most one of the child elements is present
     bool documentRoot;      // a file of this kind exists
     const SchemaText* schema;
@@ -147,10 +148,18 @@ template <int COUNT>
 constexpr quint64 requiredFieldsOf(const Field (&fields)[COUNT])
 {
     quint64 result = 0;
-    for (int i = 0; i < COUNT; ++i) {
-        if (fields[i].required)
-            result |= Q_UINT64_C(1) << i;
-    }
+    for (int i = 0; i < COUNT; ++i)
+        result |= static_cast<quint64>(fields[i].required) << i;
+    return result;
+}
+
+/// The bits of ElementTable::elementFields.
+template <int COUNT>
+constexpr quint64 elementFieldsOf(const Field (&fields)[COUNT])
+{
+    quint64 result = 0;
+    for (int i = 0; i < COUNT; ++i)
+        result |= static_cast<quint64>(fields[i].kind == FieldKind::Element) << i;
     return result;
 }
 

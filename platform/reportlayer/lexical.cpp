@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <QVarLengthArray>
 
 namespace REPORTGENERATOR {
 
@@ -48,19 +49,30 @@ bool parseInteger(const QStringRef& text, qint64* value)
 
 struct SpecialReal
 {
-    QLatin1String text;
+    const char* text;
+    int length;
     double value;
 };
 
 const SpecialReal SPECIAL_REALS[] = {
-    {QLatin1String("INF"), std::numeric_limits<double>::infinity()},
-    {QLatin1String("-INF"), -std::numeric_limits<double>::infinity()},
-    {QLatin1String("NaN"), std::numeric_limits<double>::quiet_NaN()},
+    {"INF", 3, std::numeric_limits<double>::infinity()},
+    {"-INF", 4, -std::numeric_limits<double>::infinity()},
+    {"NaN", 3, std::numeric_limits<double>::quiet_NaN()},
 };
 
-bool isOfReal(QChar c)
+bool parseSpecialReal(const QStringRef& text, double* value)
 {
-    const ushort code = c.unicode();
+    for (const SpecialReal& special : SPECIAL_REALS) {
+        if (isSame(text, special.text, special.length)) {
+            *value = special.value;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool isOfReal(ushort code)
+{
     return (code >= '0' && code <= '9') || code == '.' || code == '-' || code == '+' || code == 'e' ||
            code == 'E';
 }
@@ -68,17 +80,14 @@ bool isOfReal(QChar c)
 template <class Real>
 bool parseReal(const QStringRef& text, double* value)
 {
-    for (const SpecialReal& special : SPECIAL_REALS) {
-        if (text == special.text) {
-            *value = special.value;
-            return true;
-        }
+    QVarLengthArray<char, 64> bytes;
+    for (const QChar c : text) {
+        if (!isOfReal(c.unicode()))
+            return parseSpecialReal(text, value);
+        bytes.append(static_cast<char>(c.unicode()));
     }
-    if (!std::all_of(text.begin(), text.end(), isOfReal))
-        return false;
-    const QByteArray bytes = text.toLatin1();
     const char* first = bytes.constData();
-    const char* end = first + bytes.size();
+    const char* const end = first + bytes.size();
     if (bytes.size() > 1 && *first == '+' && first[1] != '-')
         ++first;
     Real number = 0;
@@ -89,8 +98,8 @@ bool parseReal(const QStringRef& text, double* value)
 
 bool parseBoolean(const QStringRef& text, qint64* value)
 {
-    *value = text == QLatin1String("true") || text == QLatin1String("1") ? 1 : 0;
-    return *value == 1 || text == QLatin1String("false") || text == QLatin1String("0");
+    *value = isSame(text, "true", 4) || isSame(text, "1", 1) ? 1 : 0;
+    return *value == 1 || isSame(text, "false", 5) || isSame(text, "0", 1);
 }
 
 bool parseEnumeration(const EnumTable& table, const QStringRef& text, qint64* value)
@@ -99,6 +108,23 @@ bool parseEnumeration(const EnumTable& table, const QStringRef& text, qint64* va
     while (*value < table.count && text != QLatin1String(table.names[*value]))
         ++*value;
     return *value < table.count;
+}
+
+bool parseNumber(FieldKind kind, const QStringRef& text, FieldValue* value)
+{
+    switch (kind) {
+    case FieldKind::Int:
+        return parseInteger(text, &value->integer) && value->integer >= std::numeric_limits<int>::min() &&
+               value->integer <= std::numeric_limits<int>::max();
+    case FieldKind::Long:
+        return parseInteger(text, &value->integer);
+    case FieldKind::Float:
+        return parseReal<float>(text, &value->real);
+    case FieldKind::Double:
+        return parseReal<double>(text, &value->real);
+    default:
+        return parseBoolean(text, &value->integer);
+    }
 }
 
 template <class Real>
@@ -142,28 +168,19 @@ const Escape ESCAPES[] = {
 bool parseValue(const Field& field, const QStringRef& text, FieldValue* value)
 {
     switch (field.kind) {
-    case FieldKind::Boolean:
-        return parseBoolean(withoutBlanks(text), &value->integer);
-    case FieldKind::Int:
-        return parseInteger(withoutBlanks(text), &value->integer) &&
-               value->integer >= std::numeric_limits<int>::min() &&
-               value->integer <= std::numeric_limits<int>::max();
-    case FieldKind::Long:
-        return parseInteger(withoutBlanks(text), &value->integer);
-    case FieldKind::Float:
-        return parseReal<float>(withoutBlanks(text), &value->real);
-    case FieldKind::Double:
-        return parseReal<double>(withoutBlanks(text), &value->real);
-    case FieldKind::Enumeration:
-        return parseEnumeration(*field.enumeration, text, &value->integer);
     case FieldKind::String:
     case FieldKind::DateTime:
         value->text = text.toString();
         return true;
+    case FieldKind::Enumeration:
+        return parseEnumeration(*field.enumeration, text, &value->integer);
     case FieldKind::Element:
+        return false;
+    default:
         break;
     }
-    return false;
+    const bool blanks = !text.isEmpty() && (isBlank(text.at(0)) || isBlank(text.at(text.size() - 1)));
+    return parseNumber(field.kind, blanks ? withoutBlanks(text) : text, value);
 }
 
 QString formatValue(const Field& field, const FieldValue& value)
