@@ -308,6 +308,8 @@ void TstResourceDescription::rejectsTextsThatDoNotLoad_data()
     QTest::newRow("attribute twice") << QStringLiteral("<TunerProperties version='1.0' version='1.2'/>");
     QTest::newRow("document type") << QStringLiteral(
         "<!DOCTYPE TunerProperties><TunerProperties version='1.2'/>");
+    QTest::newRow("bytes that are no text, in the name of an attribute")
+        << tunerProperties(QStringLiteral("colo\uFFFDr='red'"));
     QTest::newRow("bytes that are no text, in the name of an element")
         << tunerProperties(QString(), QStringLiteral("<Antenna><p\uFFFDle/></Antenna>"));
     QTest::newRow("NUL character") << tunerProperties(QString()).insert(40, QChar(0));

@@ -347,9 +347,10 @@ void TstResourceFiles::decodesTheFilesAsUtf8()
     write("Templates/4.xml", QByteArray(text).replace("K\xC3\xBC", "K\xFC"));
     write("Templates/5.xml", QByteArray(text).replace("<Tuner", "<T\xFCner"));
     write("Templates/6.xml", text + '\0');
+    write("Templates/7.xml", QByteArray(text).replace("name=", "na\xFCme="));
 
     QCOMPARE(run(), traces("1.xml") + traces("2.xml") + traces("3.xml") + traces("4.xml") +
-                        traces("5.xml", 416) + traces("6.xml", 416) +
+                        traces("5.xml", 416) + traces("6.xml", 416) + traces("7.xml", 416) +
                         QStringList(QString(
                             "read: HT720/K\u00fcste, HT720/K\u00fcste, HT720/K\u00fcste, HT720/K\uFFFDste")));
 }
