@@ -263,7 +263,7 @@ void TstResourceDescription::rejectsVersions_data()
 {
     QTest::addColumn<QString>("version");
     for (const char* const version :
-         {"1.0", "1.09", "0", "-2", "abc", "1,2", "1.1.0", "1.1f", "0x10", "nan", "-inf", " "})
+         {"1.0", "1.09", "0", "-2", "abc", "1,2", "1.1.0", "1.1f", "0x10", "nan", "-inf", " ", "1e999"})
         QTest::newRow(qPrintable(QStringLiteral("'%1'").arg(version))) << QString(version);
 }
 

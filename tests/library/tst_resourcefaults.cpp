@@ -9,8 +9,8 @@
 
 #include <dlfcn.h>
 
-// The program's own definitions of three platform operations stand in front of those of the platform's libraries:
-// each throws when it is told to and otherwise runs the real one.
+// The program's own definitions of four platform operations stand in front of those of the platform's libraries:
+// each writes down that it is called, throws when it is told to, and otherwise runs the real one.
 
 using JEDVEPLUGIN::ResourceDescription;
 using REPORTGENERATOR::IRGObject;
@@ -21,6 +21,7 @@ namespace {
 bool s_configurationThrows = false;
 bool s_readingThrows = false;
 bool s_checkingThrows = false;
+QStringList s_calls;
 
 template <class Function>
 Function* realOne(const char* symbol)
@@ -37,8 +38,16 @@ QString text(const QString& name)
 
 } // namespace
 
+Cfg* CfgCenter::GetAdminCfg(int view)
+{
+    s_calls.append(QStringLiteral("GetAdminCfg(%1)").arg(view));
+    using Real = Cfg*(CfgCenter*, int);
+    return realOne<Real>("_ZN9CfgCenter11GetAdminCfgEi")(this, view);
+}
+
 Cfg* CfgCenter::CreateCfg(const QString& name, int view, const QString& variant)
 {
+    s_calls.append(QStringLiteral("CreateCfg(%1, %2, '%3')").arg(name, QString::number(view), variant));
     if (s_configurationThrows)
         throw ZuException(QStringLiteral("no %1 for %2").arg(name, QString::number(view)));
     using Real = Cfg*(CfgCenter*, const QString&, int, const QString&);
@@ -47,6 +56,7 @@ Cfg* CfgCenter::CreateCfg(const QString& name, int view, const QString& variant)
 
 bool IRGObject::SetXmlString(const QString& xml, bool whole)
 {
+    s_calls.append(QStringLiteral("SetXmlString(whole %1, validating %2)").arg(whole).arg(GetValidate()));
     if (s_readingThrows)
         throw RGException(QStringLiteral("no reading"));
     using Real = bool(IRGObject*, const QString&, bool);
@@ -55,6 +65,7 @@ bool IRGObject::SetXmlString(const QString& xml, bool whole)
 
 bool IRGObject::Check()
 {
+    s_calls.append(QStringLiteral("Check(validating %1)").arg(GetValidate()));
     if (s_checkingThrows)
         throw ZuException(QStringLiteral("no checking"));
     using Real = bool(IRGObject*);
@@ -66,6 +77,8 @@ class TstResourceFaults : public QObject
     Q_OBJECT
 private slots:
     void cleanup();
+    void loadsLenientlyThenChecksStrictly();
+    void doesNotCheckWhatIsOutdated();
     void anExceptionWhileReadingLeavesAnInvalidDescription();
     void anExceptionWhileCheckingLeavesAnInvalidDescription();
     void anExceptionOfTheConfigurationLeavesTheListEmpty();
@@ -79,6 +92,21 @@ void TstResourceFaults::cleanup()
     s_configurationThrows = false;
     s_readingThrows = false;
     s_checkingThrows = false;
+    s_calls.clear();
+}
+
+void TstResourceFaults::loadsLenientlyThenChecksStrictly()
+{
+    QVERIFY(ResourceDescription(text("a")).isValid());
+
+    QCOMPARE(s_calls, QStringList({"SetXmlString(whole 1, validating 0)", "Check(validating 1)"}));
+}
+
+void TstResourceFaults::doesNotCheckWhatIsOutdated()
+{
+    QVERIFY(!ResourceDescription(text("a").replace("1.2", "1.0")).isValid());
+
+    QCOMPARE(s_calls, QStringList({"SetXmlString(whole 1, validating 0)"}));
 }
 
 void TstResourceFaults::anExceptionWhileReadingLeavesAnInvalidDescription()
@@ -115,12 +143,14 @@ void TstResourceFaults::anExceptionOfTheConfigurationLeavesTheListEmpty()
 
     s_configurationThrows = true;
     QVERIFY(ResourceDescription::readAllResourceFiles().isEmpty());
+    QCOMPARE(s_calls, QStringList({"GetAdminCfg(2)", "CreateCfg(JobManagement, 4, '')"}));
     QVERIFY(m_traces.take().join('\n').contains("no folder of Tuner Property Files: no JobManagement for 4"));
 
     // That was the one time.
     s_configurationThrows = false;
     QVERIFY(ResourceDescription::readAllResourceFiles().isEmpty());
     QCOMPARE(m_traces.take(), QStringList());
+    QCOMPARE(s_calls.size(), 2);
 }
 
 QTEST_GUILESS_MAIN(TstResourceFaults)
