@@ -158,6 +158,7 @@ private slots:
     void elementsThatStandAloneAreChecked();
     void declaredEncodingDoesNotMatter();
     void commentsDoNotMatter();
+    void hintWhereTheSchemaIsDoesNotMatter();
     void dateIsLeftToTheSchema();
     void randomTextsGetTheSameVerdict();
 };
@@ -330,6 +331,18 @@ void TstElementCheck::commentsDoNotMatter()
         QString(DOCUMENT).replace("<Gain>", "<!--c--><?p?><Gain>").replace("12.5", "12<!--c-->.5"), true));
     QVERIFY(station.Check());
     QCOMPARE(station.GetLevel(), 12.5);
+}
+
+void TstElementCheck::hintWhereTheSchemaIsDoesNotMatter()
+{
+    const QString hint = " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
+                         "xsi:noNamespaceSchemaLocation=\"nowhere.xsd\"";
+    const QString text = QString(DOCUMENT).replace(" active=\"true\"", " active=\"true\"" + hint);
+    Station station;
+    station.SetValidate(true);
+    QVERIFY2(station.SetXmlString(text, true), qPrintable(station.GetCheckReason()));
+    QVERIFY(station.Check());
+    QCOMPARE(station.GetXmlString(true), text);
 }
 
 void TstElementCheck::dateIsLeftToTheSchema()

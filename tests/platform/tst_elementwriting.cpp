@@ -1,3 +1,4 @@
+#include <QRandomGenerator>
 #include <sampleelements/sample.h>
 
 using namespace Sample;
@@ -42,6 +43,44 @@ QString written(const QString& text)
     return station.GetXmlString().remove(QRegularExpression("\n *"));
 }
 
+// A numbered piece of something that no table knows.
+QString foreignPiece(int number, QRandomGenerator* random)
+{
+    const QStringList pieces = {"<x%1/>",
+                                "<x%1 a='>'>\r\n  t <y b=\"%1\">&amp;</y></x%1>",
+                                "<!-- c%1 \U0001F4E1 -->",
+                                "<?p%1 <q?>",
+                                QStringLiteral("text%1 \u00b5 &lt; \U0001F4E1"),
+                                "<![CDATA[<z%1>]]>",
+                                "<Low><Low n='%1'/></Low>"};
+    return pieces.at(random->bounded(pieces.size())).arg(number);
+}
+
+// Foreign pieces, and blanks of any kind, between known elements on two levels.
+QString documentOfPieces(QRandomGenerator* random, int* number)
+{
+    const QStringList known = {"<Remark>\U0001F4E1&#x41;</Remark>",
+                               "<Frequency> 5 </Frequency>",
+                               "<Area>@<Low>1</Low>@<Detail>@<Threshold>2</Threshold>@</Detail>@</Area>",
+                               "<Tag>a</Tag>",
+                               "<Tag><![CDATA[b]]></Tag>",
+                               "<Channel id=\"1\">@</Channel>",
+                               "<Signal>@<Silence>@</Silence>@</Signal>"};
+    QString body;
+    for (const QString& element : known)
+        body += "@" + element;
+    QString result = "<Station name='a'>";
+    for (const QChar c : body + "@") {
+        if (c != '@') {
+            result += c;
+            continue;
+        }
+        for (int i = random->bounded(3); i > 0; --i)
+            result += QString(random->bounded(3), '\n') + foreignPiece((*number)++, random) + " ";
+    }
+    return result + "</Station>";
+}
+
 } // namespace
 
 /// The layout of what is written, and that nothing is lost on the way through an element.
@@ -62,6 +101,7 @@ private slots:
     void foreignContentKeepsItsPlace_data();
     void foreignContentKeepsItsPlace();
     void foreignContentSurvivesManyRounds();
+    void randomForeignContentSurvives();
     void foreignContentFollowsItsSibling();
     void contentBesideTheRootIsKept();
     void otherLayoutsAreBroughtIntoOursOnce();
@@ -269,6 +309,27 @@ void TstElementWriting::foreignContentSurvivesManyRounds()
     for (int i = 0; i < 5; ++i)
         text2 = resaved(text2);
     QCOMPARE(text2, once);
+}
+
+void TstElementWriting::randomForeignContentSurvives()
+{
+    QRandomGenerator random(16);
+    int total = 0;
+    const QRegularExpression numbered("(?:<x|c|<\\?p|text|<z|n=')(\\d+)");
+    for (int round = 0; round < 300; ++round) {
+        int count = 0;
+        const QString once = resaved(documentOfPieces(&random, &count));
+        QStringList found;
+        for (auto match = numbered.globalMatch(once); match.hasNext();)
+            found.append(match.next().captured(1));
+        found.removeDuplicates();
+        total += count;
+        QVERIFY2(found.size() == count, qPrintable(once));
+        for (int i = 0; i < count; ++i)
+            QCOMPARE(found.at(i), QString::number(i));
+        QCOMPARE(resaved(once), once);
+    }
+    QVERIFY(total > 1000);
 }
 
 void TstElementWriting::foreignContentFollowsItsSibling()
