@@ -44,6 +44,8 @@ public:
 
 private:
     using List = QVector<T>;
+    static constexpr int FIRST_CAPACITY =
+        4; // most lists are short, and growing costs more than a little space
     static constexpr bool HOLDS_ELEMENTS = std::is_base_of<IRGObject, T>::value;
     static List& at(void* list) { return *static_cast<List*>(list); }
     static const List& at(const void* list) { return *static_cast<const List*>(list); }
@@ -62,6 +64,8 @@ private:
     static IRGObject* appendElement(void* list)
     {
         if constexpr (HOLDS_ELEMENTS) {
+            if (at(list).capacity() == 0)
+                at(list).reserve(FIRST_CAPACITY);
             at(list).resize(at(list).size() + 1);
             return &at(list).last();
         }
