@@ -187,17 +187,14 @@ bool JobComposer::refuse(const QString& text, const QString& advice)
 
 QString JobComposer::chooseStartupMode(const ResourceDescription& resource, const QString& wanted)
 {
-    const JEDVE::enJOB_TYPE type = JEDCommonHelper::StringToJobType(m_type);
-    const QStringList offered = resource.getStartupModes();
-    const QStringList modes =
-        JEDCommonHelper::restrictedStartupModes(offered, JEDCommonHelper::allowedStartupModeString(type));
+    const QStringList modes = startupModes(resource, JEDCommonHelper::StringToJobType(m_type));
     const QString mode = wanted.isEmpty() ? modes.value(0) : JEDCommonHelper::startupModeFromGUI(wanted);
     if (modes.contains(mode))
         return mode;
     if (modes.isEmpty())
         refuse(
             translate("%1 offers no start-up mode for a job of type %2").arg(resourceKey(resource), m_type),
-            translate("It offers %1.").arg(offered.join(QLatin1String(", "))));
+            translate("It offers %1.").arg(resource.getStartupModes().join(QLatin1String(", "))));
     else
         refuse(translate("%1 does not offer the start-up mode \"%2\" for a job of type %3")
                    .arg(resourceKey(resource), wanted, m_type),

@@ -83,7 +83,7 @@ QStringList putParameterSet(const QString& name, const QString& xml, JobXml::Sub
 
 bool isCarriedByJobFile(const QString& name)
 {
-    const REPORTGENERATOR::ParameterSet* set = findParameterSet(name);
+    const REPORTGENERATOR::ParameterSet* set = JobXml::findParameterSet(name);
     // The handler reports names that it does not know; there is no need to bother it with them.
     if (!set || JobXmlHandler::getInstance()->getSettingType(name) < 0)
         return false;

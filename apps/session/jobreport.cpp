@@ -46,7 +46,7 @@ public:
         for (const auto& resource : resources) {
             keys.append(Session::resourceKey(*resource));
             if (keys.last() == keyOf(m_subjob)) {
-                checkStartupMode(resource->getStartupModes(), jobType);
+                checkStartupMode(Session::startupModes(*resource, jobType));
                 checkSets(*resource);
                 return;
             }
@@ -62,11 +62,9 @@ private:
             {Session::Finding::WARNING, m_file, 0, 0, m_title + QLatin1String(": ") + text, advice});
     }
 
-    void checkStartupMode(const QStringList& offered, JEDVE::enJOB_TYPE jobType)
+    void checkStartupMode(const QStringList& modes)
     {
         const QString mode = JobXml::Subjob::StartupModeToName(m_subjob.GetStartupMode());
-        const QStringList modes = JEDCommonHelper::restrictedStartupModes(
-            offered, JEDCommonHelper::allowedStartupModeString(jobType));
         if (!modes.contains(mode))
             warn(translate("the receiver does not offer the start-up mode \"%1\" for this type of job")
                      .arg(mode),

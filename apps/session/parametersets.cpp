@@ -9,20 +9,11 @@ using REPORTGENERATOR::ParameterSet;
 
 namespace Session {
 
-const ParameterSet* findParameterSet(const QString& name)
-{
-    for (const ParameterSet& set : JobXml::parameterSets()) {
-        if (name == QLatin1String(set.name))
-            return &set;
-    }
-    return nullptr;
-}
-
 const ParameterSet* findParameterSet(const ElementTable& table)
 {
     for (const ParameterSet& set : JobXml::parameterSets()) {
         if (set.table == &table)
-            return &set;
+            return JobXml::findParameterSet(QLatin1String(set.name));
     }
     return nullptr;
 }

@@ -7,9 +7,7 @@
 /// Look-ups by name among parameter sets and the components that supply them.
 namespace Session {
 
-/// Null if there is no parameter set of that name.
-const REPORTGENERATOR::ParameterSet* findParameterSet(const QString& name);
-/// The parameter set whose content elements of this class are; null if there is none.
+/// The parameter set whose content elements of this class are; constant, null if there is none.
 const REPORTGENERATOR::ParameterSet* findParameterSet(const REPORTGENERATOR::ElementTable& table);
 QStringList parameterSetNames();
 

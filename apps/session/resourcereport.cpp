@@ -6,6 +6,8 @@
 #include "suggestion.h"
 #include "tuneritem.h"
 
+#include <jedcommonhelper.h>
+#include <jobxml/job.h>
 #include <jobxml/parametersettext.h>
 #include <jobxml/tunerproperties.h>
 #include <parametersetmapper.h>
@@ -14,6 +16,7 @@
 #include <QHash>
 #include <QSet>
 
+using JEDVEPLUGIN::JEDCommonHelper;
 using JEDVEPLUGIN::ParameterSetMapper;
 using JEDVEPLUGIN::ResourceDescription;
 
@@ -62,7 +65,7 @@ private:
 
     void examineNode(const JobXml::Node& node, const QString& path)
     {
-        if (!Session::findParameterSet(node.Getid())) {
+        if (!JobXml::findParameterSet(node.Getid())) {
             warn(path, translate("there is no parameter set \"%1\"").arg(node.Getid()),
                  Session::suggestion(node.Getid(), Session::parameterSetNames()));
             return;
@@ -235,6 +238,14 @@ void compareResourceFiles(QList<ResourceFile>* files)
                                       suggestion(base, bases.values()).trimmed()});
         }
     }
+}
+
+QStringList startupModes(const ResourceDescription& description, JEDVE::enJOB_TYPE jobType)
+{
+    const QStringList offered = description.getStartupModes();
+    return JEDCommonHelper::restrictedStartupModes(offered.isEmpty() ? JobXml::Subjob::GetStartupModes()
+                                                                     : offered,
+                                                   JEDCommonHelper::allowedStartupModeString(jobType));
 }
 
 QString resourceKey(const ResourceDescription& description)

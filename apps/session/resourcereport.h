@@ -2,6 +2,7 @@
 
 #include "finding.h"
 
+#include <enjobtype.h>
 #include <memory>
 #include <QList>
 #include <QString>
@@ -37,6 +38,10 @@ QStringList resourceFiles(const QString& folder);
 /// resources that are missing, parents in a circle. Findings are added to the files; files that were not accepted
 /// count as not there.
 void compareResourceFiles(QList<ResourceFile>* files);
+
+/// The start-up modes that a sub-job of a receiver can have in a job of that type. A receiver that names none leaves the
+/// choice to the job's type.
+QStringList startupModes(const JEDVEPLUGIN::ResourceDescription& description, JEDVE::enJOB_TYPE jobType);
 
 /// "TYPE/BASE", the name of a resource on command lines and in scenarios.
 QString resourceKey(const JEDVEPLUGIN::ResourceDescription& description);
