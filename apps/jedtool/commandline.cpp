@@ -12,6 +12,8 @@ namespace JedTool {
 namespace {
 const char* const INSTALLATION_OPTION = "installation";
 const char* const FORMAT_OPTION = "format";
+const QStringList FORMATS{QStringLiteral("text"), QStringLiteral("json")};
+constexpr int NOUN_AND_VERB = 2;
 
 const Option COMMON_OPTIONS[] = {
     {INSTALLATION_OPTION, "DIR",
@@ -108,11 +110,15 @@ QString nounHelp(const Noun& noun)
            translate("\nNext: jedtool %1 VERB --help\n").arg(QLatin1String(noun.name));
 }
 
+QString commandOf(const Noun& noun, const Verb& verb)
+{
+    return QStringLiteral("jedtool %1 %2").arg(QLatin1String(noun.name), QLatin1String(verb.name));
+}
+
 QString verbHelp(const Noun& noun, const Verb& verb)
 {
-    const QString name = QLatin1String(noun.name) + QLatin1Char(' ') + QLatin1String(verb.name);
-    QString result = translate("Usage: jedtool %1 %2\n\n%3\n")
-                         .arg(name, translate(verb.synopsis), translate(verb.details));
+    QString result = translate("Usage: %1 %2\n\n%3\n")
+                         .arg(commandOf(noun, verb), translate(verb.synopsis), translate(verb.details));
     if (!verb.options.isEmpty())
         result += translate("Options:\n") + optionsHelp(verb.options) + QLatin1Char('\n');
     return result + translate("Options of every verb:\n") + optionsHelp(COMMON_OPTIONS);
@@ -177,37 +183,44 @@ bool chooseInstallation(const QString& folder)
     return false;
 }
 
+// Why the parser does not take the arguments.
+QString parserFault(const QCommandLineParser& parser, const Verb& verb)
+{
+    if (parser.unknownOptionNames().isEmpty())
+        return parser.errorText();
+    QStringList known;
+    for (const QString& name : namesOf(verb.options) + namesOf(COMMON_OPTIONS))
+        known.append(QLatin1String("--") + name);
+    const QString unknown = QLatin1String("--") + parser.unknownOptionNames().first();
+    return translate("there is no option %1.%2").arg(unknown, Session::suggestion(unknown, known));
+}
+
+// Null, or what is wrong with what was parsed.
+QString usageFault(const QCommandLineParser& parser, const Noun& noun, const Verb& verb)
+{
+    if (parser.isSet(FORMAT_OPTION) && !FORMATS.contains(parser.value(FORMAT_OPTION)))
+        return translate("the format is text or json, not \"%1\"").arg(parser.value(FORMAT_OPTION));
+    const int count = parser.positionalArguments().size() - NOUN_AND_VERB;
+    if (count < verb.minimumArguments || (verb.maximumArguments >= 0 && count > verb.maximumArguments))
+        return translate("write: %1 %2").arg(commandOf(noun, verb), translate(verb.synopsis)).trimmed();
+    return QString();
+}
+
 ExitCode runVerb(const Noun& noun, const Verb& verb, const QStringList& arguments)
 {
-    const QString help = QLatin1String("jedtool ") + QLatin1String(noun.name) + QLatin1Char(' ') +
-                         QLatin1String(verb.name) + QLatin1String(" --help");
     QCommandLineParser parser;
     for (const Option& option : COMMON_OPTIONS)
         parser.addOption(toQtOption(option));
     for (const Option& option : verb.options)
         parser.addOption(toQtOption(option));
-    if (!parser.parse(QStringList(QString()) + arguments)) {
-        const QStringList unknown = parser.unknownOptionNames();
-        const QStringList known = namesOf(verb.options) + namesOf(COMMON_OPTIONS);
-        return usageError(unknown.isEmpty()
-                              ? parser.errorText()
-                              : translate("there is no option --%1.%2")
-                                    .arg(unknown.first(), Session::suggestion(unknown.first(), known)),
-                          help);
-    }
-    const QString format = parser.isSet(FORMAT_OPTION) ? parser.value(FORMAT_OPTION) : QStringLiteral("text");
-    if (format != QLatin1String("text") && format != QLatin1String("json"))
-        return usageError(translate("the format is text or json, not \"%1\".").arg(format), help);
+    const bool isParsed = parser.parse(QStringList(QString()) + arguments);
+    const QString fault = isParsed ? usageFault(parser, noun, verb) : parserFault(parser, verb);
+    if (!fault.isNull())
+        return usageError(fault, commandOf(noun, verb) + QLatin1String(" --help"));
     Invocation invocation;
-    invocation.arguments = parser.positionalArguments().mid(2);
+    invocation.arguments = parser.positionalArguments().mid(NOUN_AND_VERB);
     invocation.options = orderedOptions(parser, verb);
-    invocation.isJson = format == QLatin1String("json");
-    const int count = invocation.arguments.size();
-    if (count < verb.minimumArguments || (verb.maximumArguments >= 0 && count > verb.maximumArguments))
-        return usageError(
-            translate("write: jedtool %1 %2 %3")
-                .arg(QLatin1String(noun.name), QLatin1String(verb.name), translate(verb.synopsis)),
-            help);
+    invocation.isJson = parser.value(FORMAT_OPTION) == QLatin1String("json");
     return chooseInstallation(parser.value(INSTALLATION_OPTION)) ? verb.run(invocation) : USAGE;
 }
 

@@ -137,7 +137,7 @@ ExitCode runScenario(const Session::Scenario& scenario, bool isJson)
         printFindings(runner.findings());
     for (const QString& file : runner.savedFiles()) {
         if (!isJson)
-            print(translate("%1: job with %2 sub-jobs written\nNext: jedtool job check %1\n")
+            print(translate("%1: written, sub-jobs: %2\nNext: jedtool job check %1\n")
                       .arg(file, QString::number(runner.subjobCount())));
     }
     if (outcome == Session::ScenarioRunner::DONE)
@@ -192,8 +192,8 @@ ExitCode check(const Invocation& invocation)
         for (const Session::Finding& finding : findings)
             print(finding.toText() + QLatin1Char('\n'));
         print(Session::needsAttention(findings)
-                  ? translate("%1: %2 findings\n").arg(path, QString::number(findings.size()))
-                  : translate("%1: clean; %2 sub-jobs, read and written back unchanged\n")
+                  ? translate("%1: findings: %2\n").arg(path, QString::number(findings.size()))
+                  : translate("%1: clean, sub-jobs: %2\n")
                         .arg(path, QString::number(document.job().GetSubjob().size())));
     }
     return Session::needsAttention(findings) ? FINDINGS : CLEAN;

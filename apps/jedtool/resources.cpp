@@ -23,7 +23,7 @@ const char* const SHOW_DETAILS = QT_TRANSLATE_NOOP(
     "jedtool",
     "Shows a receiver: start-up modes, components, and each value with its default and what it may be set "
     "to.\n"
-    "NAME is TYPE/BASE, or the receiver's own name.\n\n"
+    "NAME is TYPE/BASE, the receiver's own name, or BASE where only one type has it.\n\n"
     "Example:  jedtool resources show HT720/HF-1\n"
     "Next:     jedtool job new --type Search --resource HT720/HF-1 --set SET/FIELD=VALUE --out job.xml\n");
 const char* const CHECK_DETAILS =
@@ -64,25 +64,46 @@ ExitCode list(const Invocation& invocation)
     return FINDINGS;
 }
 
+// The resources that a person may mean: by TYPE/BASE or own name, else all with that base resource.
+Resources meant(const QString& wanted, const Resources& resources)
+{
+    Resources byBase;
+    for (const auto& resource : resources) {
+        if (Session::resourceKey(*resource) == wanted || resource->getName() == wanted)
+            return {resource};
+        if (resource->getBaseResource() == wanted)
+            byBase.append(resource);
+    }
+    return byBase;
+}
+
+QStringList namesOf(const Resources& resources)
+{
+    QStringList names;
+    for (const auto& resource : resources)
+        names << Session::resourceKey(*resource) << resource->getName();
+    return names;
+}
+
 ExitCode show(const Invocation& invocation)
 {
     const QString wanted = invocation.arguments.first();
-    QStringList names;
-    for (const auto& resource : JEDVEPLUGIN::ResourceDescription::readAllResourceFiles()) {
-        const QString key = Session::resourceKey(*resource);
-        if (key == wanted || resource->getName() == wanted) {
-            if (invocation.isJson)
-                printJson(resourceToJson(*resource));
-            else
-                print(resourceToText(*resource));
-            return CLEAN;
-        }
-        names << key << resource->getName();
+    const Resources resources = JEDVEPLUGIN::ResourceDescription::readAllResourceFiles();
+    const Resources found = meant(wanted, resources);
+    if (found.size() != 1) {
+        const QString hint =
+            found.isEmpty() ? Session::suggestion(wanted, namesOf(resources))
+                            : translate(" Write one of %1.").arg(namesOf(found).join(QLatin1String(", ")));
+        printError(
+            translate("jedtool: no receiver of the installation is called \"%1\".%2").arg(wanted, hint));
+        printError(translate("Next: jedtool resources list"));
+        return USAGE;
     }
-    printError(translate("jedtool: the installation offers no \"%1\".%2")
-                   .arg(wanted, Session::suggestion(wanted, names)));
-    printError(translate("Next: jedtool resources list"));
-    return USAGE;
+    if (invocation.isJson)
+        printJson(resourceToJson(*found.first()));
+    else
+        print(resourceToText(*found.first()));
+    return CLEAN;
 }
 
 // The files asked for, then, to compare with, those of the installation.

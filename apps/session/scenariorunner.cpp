@@ -118,7 +118,7 @@ ScenarioRunner::Outcome ScenarioRunner::refused(bool isDone)
 
 ScenarioRunner::Outcome ScenarioRunner::stop(Outcome outcome, const QString& text, const QString& advice)
 {
-    m_findings.append({Finding::FAILURE, m_place, m_line, 0, text, advice});
+    m_findings.append({Finding::FAILURE, m_place, m_place.isEmpty() ? 0 : m_line, 0, text, advice});
     return outcome;
 }
 

@@ -23,7 +23,7 @@ public:
     /// Runs the steps up to the first that is not done.
     Outcome run(const Scenario& scenario);
 
-    /// Why a step was not done, with the scenario's name and the step's line, and what got lost in files that were
+    /// Why a step was not done, with the scenario's name (if it has one) and the step's line, and what got lost in files that were
     /// written.
     const Findings& findings() const { return m_findings; }
     /// The files that were written, in order.
