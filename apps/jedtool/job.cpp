@@ -118,7 +118,7 @@ bool readScenario(const QString& path, Session::Scenario* scenario)
     const bool isRead = Session::readFile(path, &bytes, &reason);
     if (!isRead)
         finding.text = translate("cannot be read: %1").arg(reason);
-    if (isRead && scenario->parse(QString::fromUtf8(bytes), path, &finding))
+    if (isRead && scenario->parse(Session::decodedText(bytes), path, &finding))
         return true;
     printFindings({finding});
     return false;

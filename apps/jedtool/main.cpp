@@ -17,12 +17,10 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 #if defined(__SANITIZE_ADDRESS__)
     const __lsan::ScopedDisabler ignored;
 #endif
-    // A tool needs no runtime folder, so it does not matter that there may be none.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
-    auto application = std::make_unique<QApplication>(argc, argv);
-    // Traces are for those who ask for them with QT_LOGGING_RULES, which comes before these rules.
-    QLoggingCategory::setFilterRules(QStringLiteral("jobeditorve.trace=false"));
-    return application;
+    // Nobody sees the windows, so what Qt has to say about them does not matter. Traces are for those who ask for them
+    // with QT_LOGGING_RULES, which comes before these rules.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false\njobeditorve.trace=false"));
+    return std::make_unique<QApplication>(argc, argv);
 }
 } // namespace
 

@@ -23,7 +23,7 @@ bool JobDocument::load(const QString& path, Findings* findings)
         return false;
     }
     JobXml::Job job;
-    if (!job.SetXmlString(QString::fromUtf8(bytes), true)) {
+    if (!job.SetXmlString(decodedText(bytes), true)) {
         findings->append({Finding::FAILURE, path, job.GetCheckLine(), job.GetCheckColumn(),
                           job.GetCheckReason(), translate("This is no job file, or it is damaged.")});
         return false;

@@ -1,6 +1,7 @@
 #include "quantity.h"
 
 #include <cmath>
+#include <QLocale>
 #include <QRegularExpression>
 
 namespace {
@@ -40,6 +41,15 @@ double factorOf(const QString& suffix, const QString& unit)
 QString divided(double number, double factor)
 {
     return QString::number(number / factor, 'g', 12);
+}
+// Without an exponent, where that is not too long.
+QString plain(const QString& number, double value)
+{
+    constexpr double LONGEST = 1e15;
+    if (!number.contains(QLatin1Char('e'), Qt::CaseInsensitive) || std::abs(value) >= LONGEST ||
+        std::abs(value) < 1 / LONGEST)
+        return number;
+    return QString::number(value, 'f', QLocale::FloatingPointShortest);
 }
 } // namespace
 
@@ -82,8 +92,10 @@ QString readableQuantity(const QString& number, const QString& unit)
 {
     bool isNumber = false;
     const double value = number.toDouble(&isNumber);
-    if (!isNumber || unit.isEmpty())
+    if (!isNumber)
         return number;
+    if (unit.isEmpty())
+        return plain(number, value);
     const Suffix* best = nullptr;
     for (const Suffix& row : SUFFIXES) {
         const bool fits = row.unit == unit && row.isSpelledOut && std::abs(value) >= row.factor;
@@ -91,7 +103,7 @@ QString readableQuantity(const QString& number, const QString& unit)
         if (fits && divided(value, row.factor).toDouble() * row.factor == value)
             best = &row;
     }
-    const QString shown = best ? divided(value, best->factor) : number;
+    const QString shown = best ? divided(value, best->factor) : plain(number, value);
     return shown + QLatin1Char(' ') + (best ? QString(best->text) : unit);
 }
 

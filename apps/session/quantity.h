@@ -17,7 +17,7 @@ bool parseQuantity(const QString& text, const QString& unit, double* number);
 bool parseWholeQuantity(const QString& text, const QString& unit, qint64* number);
 
 /// A number as text() of a value gives it, with its unit: "156800000" in Hz reads "156.8 MHz". Text that is no number
-/// and numbers without a unit stay as they are.
+/// stays as it is.
 QString readableQuantity(const QString& number, const QString& unit);
 
 /// What may stand behind a number in \p unit, for messages: "Hz, kHz, MHz, GHz".

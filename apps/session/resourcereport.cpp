@@ -72,6 +72,8 @@ private:
         }
         QSet<QString> ids;
         for (int i = 0; i < node.GetValueItem().size(); ++i) {
+            if (node.GetValueItem().at(i).GetChoiceValueItem() < 0)
+                continue; // Of an unknown kind; validating tells.
             const Session::TunerItem item = Session::tunerItem(node.GetValueItem().at(i));
             const QString itemPath = QStringLiteral("%1/ValueItem:%2").arg(path, QString::number(i));
             const REPORTGENERATOR::Field* field = JobXml::ParameterSetText::field(node.Getid(), item.id);
@@ -128,6 +130,18 @@ QString parentKey(const ResourceDescription& description)
     return description.getType() + QLatin1Char('/') + description.getParentBaseResource();
 }
 
+// The base resources of one type, or of all if it is empty.
+QStringList basesOf(const QString& type, const QHash<QString, const Session::ResourceFile*>& files)
+{
+    QStringList result;
+    for (const Session::ResourceFile* file : files) {
+        if (type.isEmpty() || file->description->getType() == type)
+            result.append(file->description->getBaseResource());
+    }
+    result.sort();
+    return result;
+}
+
 // Whether following the parents from here leads back to here.
 bool isInCircle(const ResourceDescription& start, const QHash<QString, const Session::ResourceFile*>& files)
 {
@@ -153,8 +167,9 @@ Session::Finding parentFinding(const Session::ResourceFile& file,
     if (!files.contains(parentKey(description))) {
         finding.text = translate("the parent \"%1\" is not among the resources of type %2")
                            .arg(description.getParentBaseResource(), description.getType());
-        finding.advice = (translate("The resource counts as one without a parent.") +
-                          Session::suggestion(parentKey(description), files.keys()));
+        finding.advice =
+            (translate("The resource counts as one without a parent.") +
+             Session::suggestion(description.getParentBaseResource(), basesOf(description.getType(), files)));
     } else if (isInCircle(description, files)) {
         finding.text = translate("the parents of %1 lead back to it").arg(Session::resourceKey(description));
         finding.advice = translate("Take the parent out of one of the files in the circle.");
@@ -176,7 +191,7 @@ ResourceFile examineResourceFile(const QString& path)
             {Finding::FAILURE, path, 0, 0, translate("cannot be read: %1").arg(reason), QString()});
         return file;
     }
-    const QString xml = QString::fromUtf8(bytes);
+    const QString xml = decodedText(bytes);
     JobXml::TunerProperties properties;
     properties.SetValidate(false);
     if (!properties.SetXmlString(xml, true)) {
@@ -215,9 +230,7 @@ void compareResourceFiles(QList<ResourceFile>* files)
 {
     const QList<ResourceFile> all = *files;
     const QHash<QString, const ResourceFile*> known = byKey(all);
-    QSet<QString> bases;
-    for (const ResourceFile* file : known)
-        bases.insert(file->description->getBaseResource());
+    const QStringList bases = basesOf(QString(), known);
     for (ResourceFile& file : *files) {
         if (!file.description)
             continue;
@@ -235,7 +248,7 @@ void compareResourceFiles(QList<ResourceFile>* files)
             if (!bases.contains(base))
                 file.findings.append({Finding::WARNING, file.path, 0, 0,
                                       translate("the connectable resource \"%1\" is not there").arg(base),
-                                      suggestion(base, bases.values()).trimmed()});
+                                      suggestion(base, bases).trimmed()});
         }
     }
 }

@@ -59,4 +59,9 @@ bool readFile(const QString& path, QByteArray* content, QString* error)
     return true;
 }
 
+QString decodedText(const QByteArray& content)
+{
+    return QString::fromUtf8(content.constData(), content.size());
+}
+
 } // namespace Session

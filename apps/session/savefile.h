@@ -20,4 +20,7 @@ bool saveFile(const QString& path, const QByteArray& content, QString* error);
 /// \return false, with \p content empty, if the file could not be read
 bool readFile(const QString& path, QByteArray* content, QString* error);
 
+/// The text of UTF-8 bytes, all of it: a NUL stays a character, so that readers of markup see and refuse it.
+QString decodedText(const QByteArray& content);
+
 } // namespace Session

@@ -7,6 +7,7 @@
 namespace {
 // Longer words are not mistyped names; the distance takes time in the product of the lengths.
 constexpr int MAX_LETTERS = 200;
+constexpr int MAX_CHANGES = 3;
 
 int distance(const QString& from, const QString& to)
 {
@@ -37,7 +38,7 @@ QString nearest(const QString& word, const QStringList& candidates)
         if (word.size() > MAX_LETTERS || candidate.size() > MAX_LETTERS)
             continue;
         const int changes = distance(wanted, candidate.toCaseFolded());
-        const int allowed = (std::max(word.size(), candidate.size()) + 2) / 3;
+        const int allowed = std::min((std::max(word.size(), candidate.size()) + 2) / 3, MAX_CHANGES);
         if (changes <= allowed && (best.isNull() || changes < bestDistance)) {
             best = candidate;
             bestDistance = changes;

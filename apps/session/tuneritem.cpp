@@ -1,5 +1,7 @@
 #include "tuneritem.h"
 
+#include "quantity.h"
+
 #include <iterator>
 #include <jobxml/tunerproperties.h>
 #include <QCoreApplication>
@@ -67,22 +69,27 @@ TunerItem (*const READERS[])(const JobXml::ValueItem&) = {
     [](const JobXml::ValueItem& item) { return plain(item.GetValueStringList()); },
 };
 
-QString rangeText(double minimum, double maximum)
+QString shown(double number, const REPORTGENERATOR::Field& field)
 {
-    return QStringLiteral("%1 … %2").arg(ValueText::fromDouble(minimum), ValueText::fromDouble(maximum));
+    return Session::readableQuantity(ValueText::fromDouble(number), field.unit());
 }
 
-QStringList rangeFaults(const TunerItem& item)
+QString shownRange(double minimum, double maximum, const REPORTGENERATOR::Field& field)
 {
-    const QString range = rangeText(item.minimum, item.maximum);
+    return QStringLiteral("%1 … %2").arg(shown(minimum, field), shown(maximum, field));
+}
+
+QStringList rangeFaults(const TunerItem& item, const REPORTGENERATOR::Field& field)
+{
+    const QString range = shownRange(item.minimum, item.maximum, field);
     QStringList result;
     if (item.minimum > item.maximum)
         result.append(translate("the range %1 is empty").arg(range));
     else if (item.value < item.minimum || item.value > item.maximum)
-        result.append(translate("the default %1 is outside the range %2")
-                          .arg(ValueText::fromDouble(item.value), range));
+        result.append(
+            translate("the default %1 is outside the range %2").arg(shown(item.value, field), range));
     if (item.step < 0)
-        result.append(translate("the step %1 is negative").arg(ValueText::fromDouble(item.step)));
+        result.append(translate("the step %1 is negative").arg(shown(item.step, field)));
     return result;
 }
 
@@ -94,12 +101,12 @@ QStringList fieldRangeFaults(const TunerItem& item, const REPORTGENERATOR::Field
     const double high = item.hasRange ? item.maximum : item.value;
     if (low >= minimum && high <= maximum)
         return {};
-    const QString range = rangeText(minimum, maximum);
+    const QString range = shownRange(minimum, maximum, field);
     if (item.hasRange)
         return {translate("the range %1 reaches beyond %2, which a job file can hold")
-                    .arg(rangeText(low, high), range)};
-    return {translate("the default %1 is outside %2, which a job file can hold")
-                .arg(ValueText::fromDouble(low), range)};
+                    .arg(shownRange(low, high, field), range)};
+    return {
+        translate("the default %1 is outside %2, which a job file can hold").arg(shown(low, field), range)};
 }
 
 QStringList selectionFaults(const TunerItem& item, const REPORTGENERATOR::Field& field)
@@ -131,7 +138,7 @@ QStringList tunerItemFaults(const TunerItem& item, const REPORTGENERATOR::Field&
     if (item.isSelection)
         result += selectionFaults(item, field);
     if (item.hasRange)
-        result += rangeFaults(item);
+        result += rangeFaults(item, field);
     if (item.isNumber && field.isNumber())
         result += fieldRangeFaults(item, field);
     return result;
