@@ -1,6 +1,5 @@
 #include "resourcereport.h"
 
-#include "elementpositions.h"
 #include "parametersets.h"
 #include "savefile.h"
 #include "suggestion.h"
@@ -30,9 +29,9 @@ QString translate(const char* source)
 class FileExaminer
 {
 public:
-    FileExaminer(Session::ResourceFile* file, const QString& xml)
+    FileExaminer(Session::ResourceFile* file, const Session::ElementPositions& positions)
         : m_file(file)
-        , m_positions(xml)
+        , m_positions(positions)
     {
     }
 
@@ -95,7 +94,7 @@ private:
     }
 
     Session::ResourceFile* m_file;
-    Session::ElementPositions m_positions;
+    const Session::ElementPositions& m_positions;
 };
 
 void refuse(Session::ResourceFile* file, const REPORTGENERATOR::IRGObject& element, const QString& reason)
@@ -105,12 +104,11 @@ void refuse(Session::ResourceFile* file, const REPORTGENERATOR::IRGObject& eleme
                            translate("The library skips the file. Mend it, or export it again.")});
 }
 
-void refuseVersion(Session::ResourceFile* file, const QString& version, const QString& xml)
+void refuseVersion(Session::ResourceFile* file, const QString& version)
 {
-    const Session::ElementPositions::Position root = Session::ElementPositions(xml).at(QString());
     file->verdict = Session::ResourceFile::OUTDATED;
     file->findings.append(
-        {Session::Finding::FAILURE, file->path, root.line, root.column,
+        {Session::Finding::FAILURE, file->path, file->root.line, file->root.column,
          translate("version \"%1\" is outdated, 1.1 or later is needed").arg(version),
          translate("The library skips the file and warns. Export the tuner properties again.")});
 }
@@ -161,7 +159,8 @@ Session::Finding parentFinding(const Session::ResourceFile& file,
                                const QHash<QString, const Session::ResourceFile*>& files)
 {
     const ResourceDescription& description = *file.description;
-    Session::Finding finding{Session::Finding::WARNING, file.path, 0, 0, QString(), QString()};
+    Session::Finding finding{Session::Finding::WARNING, file.path, file.root.line,
+                             file.root.column,          QString(), QString()};
     if (description.getParentBaseResource().isEmpty())
         return finding;
     if (!files.contains(parentKey(description))) {
@@ -198,9 +197,11 @@ ResourceFile examineResourceFile(const QString& path)
         refuse(&file, properties, properties.GetCheckReason());
         return file;
     }
+    const ElementPositions positions(xml);
+    file.root = positions.at(QString());
     auto description = std::make_shared<ResourceDescription>(xml);
     if (!description->isValid()) {
-        refuseVersion(&file, properties.GetInitialVersionLoaded(), xml);
+        refuseVersion(&file, properties.GetInitialVersionLoaded());
         return file;
     }
     file.verdict = ResourceFile::ACCEPTED;
@@ -211,7 +212,7 @@ ResourceFile examineResourceFile(const QString& path)
             {Finding::WARNING, path, properties.GetCheckLine(), properties.GetCheckColumn(),
              properties.GetCheckReason(),
              translate("The library takes the file all the same; what it does not understand is left out.")});
-    FileExaminer(&file, xml).examine(properties);
+    FileExaminer(&file, positions).examine(properties);
     return file;
 }
 
@@ -238,7 +239,7 @@ void compareResourceFiles(QList<ResourceFile>* files)
         const QString first = known.value(key)->path;
         if (first != file.path)
             file.findings.append(
-                {Finding::FAILURE, file.path, 0, 0,
+                {Finding::FAILURE, file.path, file.root.line, file.root.column,
                  translate("%1 is described by %2 already").arg(key, first),
                  translate("Take one of the two files away, or give it another base resource.")});
         const Finding parent = parentFinding(file, known);
@@ -246,7 +247,7 @@ void compareResourceFiles(QList<ResourceFile>* files)
             file.findings.append(parent);
         for (const QString& base : file.description->getConnectableResources()) {
             if (!bases.contains(base))
-                file.findings.append({Finding::WARNING, file.path, 0, 0,
+                file.findings.append({Finding::WARNING, file.path, file.root.line, file.root.column,
                                       translate("the connectable resource \"%1\" is not there").arg(base),
                                       suggestion(base, bases).trimmed()});
         }

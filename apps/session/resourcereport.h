@@ -1,5 +1,6 @@
 #pragma once
 
+#include "elementpositions.h"
 #include "finding.h"
 
 #include <enjobtype.h>
@@ -25,6 +26,7 @@ struct ResourceFile
     Verdict verdict = SKIPPED;
     std::shared_ptr<JEDVEPLUGIN::ResourceDescription> description; ///< null unless accepted
     Findings findings;                                             ///< with line and column
+    ElementPositions::Position root;                               ///< where its element begins
 };
 
 /// Reads one file as the library does and looks at all that it says: schema, components, parameter sets, fields,
