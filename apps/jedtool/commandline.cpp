@@ -117,8 +117,8 @@ QString commandOf(const Noun& noun, const Verb& verb)
 
 QString verbHelp(const Noun& noun, const Verb& verb)
 {
-    QString result = translate("Usage: %1 %2\n\n%3\n")
-                         .arg(commandOf(noun, verb), translate(verb.synopsis), translate(verb.details));
+    const QString usage = (commandOf(noun, verb) + QLatin1Char(' ') + translate(verb.synopsis)).trimmed();
+    QString result = translate("Usage: %1\n\n%2\n").arg(usage, translate(verb.details));
     if (!verb.options.isEmpty())
         result += translate("Options:\n") + optionsHelp(verb.options) + QLatin1Char('\n');
     return result + translate("Options of every verb:\n") + optionsHelp(COMMON_OPTIONS);
@@ -202,7 +202,7 @@ QString usageFault(const QCommandLineParser& parser, const Noun& noun, const Ver
         return translate("the format is text or json, not \"%1\"").arg(parser.value(FORMAT_OPTION));
     const int count = parser.positionalArguments().size() - NOUN_AND_VERB;
     if (count < verb.minimumArguments || (verb.maximumArguments >= 0 && count > verb.maximumArguments))
-        return translate("write: %1 %2").arg(commandOf(noun, verb), translate(verb.synopsis)).trimmed();
+        return translate("usage: %1 %2").arg(commandOf(noun, verb), translate(verb.synopsis)).trimmed();
     return QString();
 }
 

@@ -59,13 +59,11 @@ void composeSet(const Node& set, const QString& place, JobXml::Subjob* subjob, S
         warn(translate("%1/%2 is lost: its field does not take \"%3\"")
                  .arg(name, id, set.GetChild(id)->GetText()),
              QString());
-    if (!Session::isCarriedByJobFile(name)) {
-        warn(translate("%1 is lost: a job file cannot hold it").arg(name),
+    for (const QString& part : Session::lostParts(name, xml))
+        warn(translate("%1 is lost: a job file cannot hold it").arg(part),
              translate("The receiver keeps the values that it has."));
-        return;
-    }
-    for (const QString& field : Session::putParameterSet(name, xml, subjob))
-        warn(translate("%1/%2 is lost: a job file does not carry it").arg(name, field), QString());
+    if (Session::isCarriedByJobFile(name))
+        Session::putParameterSet(name, xml, subjob);
 }
 } // namespace
 

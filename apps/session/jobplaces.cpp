@@ -63,22 +63,31 @@ QList<CarriedSet> carriedSets(const JobXml::Subjob& subjob)
     return sets;
 }
 
-QStringList putParameterSet(const QString& name, const QString& xml, JobXml::Subjob* subjob)
+void putParameterSet(const QString& name, const QString& xml, JobXml::Subjob* subjob)
 {
     JobXmlHandler* const handler = JobXmlHandler::getInstance();
     if (belongsToSubjob(name))
         handler->addSubjobSetting(name, xml, *subjob);
     else
         handler->addParameterSetObject(name, xml, subjob->GetSettings());
-    QStringList missing = childNames(xml);
-    for (const CarriedSet& carried : carriedSets(*subjob)) {
-        if (name != QLatin1String(carried.set->name))
-            continue;
-        for (const QString& child : childNames(carried.xml))
-            missing.removeAll(child);
+}
+
+QStringList lostParts(const QString& name, const QString& xml)
+{
+    if (!isCarriedByJobFile(name))
+        return {name};
+    JobXml::Subjob subjob;
+    putParameterSet(name, xml, &subjob);
+    QStringList kept;
+    for (const CarriedSet& carried : carriedSets(subjob))
+        kept += childNames(carried.xml);
+    QStringList lost;
+    for (const QString& part : childNames(xml)) {
+        const QString path = name + QLatin1Char('/') + part;
+        if (!kept.contains(part) && !lost.contains(path))
+            lost.append(path);
     }
-    missing.removeDuplicates();
-    return missing;
+    return lost;
 }
 
 bool isCarriedByJobFile(const QString& name)

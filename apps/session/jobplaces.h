@@ -25,8 +25,11 @@ struct CarriedSet
 QList<CarriedSet> carriedSets(const JobXml::Subjob& subjob);
 
 /// Puts the text of a parameter set where the library's job file handler wants it.
-/// \return what of the set did not get there: the names of its fields or groups that the handler takes out
-QStringList putParameterSet(const QString& name, const QString& xml, JobXml::Subjob* subjob);
+void putParameterSet(const QString& name, const QString& xml, JobXml::Subjob* subjob);
+
+/// What of a parameter set's text a job file cannot hold: "SET" if all of it, else "SET/PART" for each field or group that
+/// the job file handler takes out.
+QStringList lostParts(const QString& name, const QString& xml);
 
 /// Whether a parameter set of that name finds a place in a job file.
 bool isCarriedByJobFile(const QString& name);

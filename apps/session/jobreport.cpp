@@ -81,8 +81,8 @@ private:
             names.insert(QLatin1String(carried.set->name));
         }
         for (const Node* set : tree.setsInUse(names)) {
-            if (!Session::isCarriedByJobFile(set->GetId()))
-                warn(translate("the receiver has %1, which a job file cannot hold").arg(set->GetId()),
+            for (const QString& part : Session::lostParts(set->GetId(), ParameterSetText::toText(*set)))
+                warn(translate("the receiver has %1, which a job file cannot hold").arg(part),
                      translate("The receiver keeps the values that it has."));
         }
     }

@@ -1,4 +1,5 @@
 #include <jobxml/job.h>
+#include <reportlayer/fieldaccess.h>
 #include <session/joboutline.h>
 #include <session/jobplaces.h>
 #include <session/parametersets.h>
@@ -11,6 +12,7 @@ class TstJobPlaces : public QObject
 private slots:
     void allButTwoSetsAreCarried();
     void carriedSetsKeepTheOrderOfTheFile();
+    void partsThatTheHandlerTakesOutAreTold();
     void unknownNamesAreNotCarried();
     void componentsOfTheTable();
     void theOutlineShowsLabelsAndUnits();
@@ -51,7 +53,7 @@ void TstJobPlaces::carriedSetsKeepTheOrderOfTheFile()
 {
     JobXml::Subjob subjob;
     QCOMPARE(carriedSets(subjob).size(), 0);
-    QCOMPARE(putParameterSet("TunerSettings", "<FFM_Settings/>", &subjob), QStringList());
+    putParameterSet("TunerSettings", "<FFM_Settings/>", &subjob);
     putParameterSet("ADemSettings", "<Audio_Settings/>", &subjob);
     putParameterSet("CompressionSettings", "<CompressionSettings/>", &subjob);
     putParameterSet("FHPJobSettings", "<ST_Settings/>", &subjob);
@@ -60,6 +62,26 @@ void TstJobPlaces::carriedSetsKeepTheOrderOfTheFile()
         names.append(carried.set->name);
     QCOMPARE(names, QStringList({"CompressionSettings", "ADemSettings", "TunerSettings", "FHPJobSettings"}));
     QVERIFY(carriedSets(subjob).at(2).xml.startsWith("<FFM_Settings"));
+}
+
+void TstJobPlaces::partsThatTheHandlerTakesOutAreTold()
+{
+    JobXml::DSC_Settings settings;
+    for (const QString& path : REPORTGENERATOR::fieldPaths(settings.table())) {
+        const QString text = REPORTGENERATOR::fieldText(settings, path);
+        if (!text.isNull())
+            REPORTGENERATOR::setFieldText(settings, path, text);
+    }
+    QVERIFY(settings.IsPriorityCriteriaSet() && settings.IsProduceCriteriaSet() &&
+            settings.IsSpectralDetectorSettingsSet());
+    QCOMPARE(lostParts("DSCSettings", settings.GetXmlString(false)),
+             QStringList({"DSCSettings/PriorityCriteria", "DSCSettings/ProduceCriteria",
+                          "DSCSettings/SpectralDetectorSettings"}));
+    settings.ResetPriorityCriteria();
+    settings.ResetProduceCriteria();
+    settings.ResetSpectralDetectorSettings();
+    QCOMPARE(lostParts("DSCSettings", settings.GetXmlString(false)), QStringList());
+    QCOMPARE(lostParts("StorageSettings", "<StorageSettings/>"), QStringList{"StorageSettings"});
 }
 
 void TstJobPlaces::unknownNamesAreNotCarried()

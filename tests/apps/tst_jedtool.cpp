@@ -1,0 +1,245 @@
+#include <QProcess>
+#include <session/savefile.h>
+
+// What jedtool prints, letter by letter: each case is a session of commands, in a folder of its own, whose output and
+// exit codes are compared with a file in tests/data/expected/jedtool. dev/accept-output writes those files anew.
+
+namespace {
+const char* const EXPECTED_FOLDER = JED_SOURCE_DIR "/tests/data/expected/jedtool/";
+constexpr int MOST_TIME = 2000; // Of one command, in ms.
+
+bool copyFiles(const QString& from, const QString& to)
+{
+    bool isDone = QDir().mkpath(to);
+    for (const QString& name : QDir(from).entryList(QDir::Files))
+        isDone = isDone && QFile::copy(from + '/' + name, to + '/' + name);
+    return isDone;
+}
+} // namespace
+
+class TstJedtool : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void output_data();
+    void output();
+    void anOutdatedFileEndsInTime();
+    void theEnvironmentNamesTheInstallation();
+    void tracesAreShownWhenAskedFor();
+
+private:
+    struct Result
+    {
+        int exitCode = -1;
+        QByteArray output;
+        QByteArray errors;
+        qint64 time = 0; // ms
+    };
+    Result run(const QString& command, const QStringList& environment = {});
+    QString transcript(const QString& command);
+    QByteArray neutral(QByteArray text) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+// "wrong" is an installation with all that can be wrong, "outdated" one with a good and an outdated file, "bare" one
+// without files, "unreadable" one whose configuration is no good.
+void TstJedtool::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    const QString data = JED_SOURCE_DIR "/tests/data/";
+    const QByteArray configuration = "[JobManagement]\nTemplateFolder=TemplateFolder\n";
+    for (const QString name : {"wrong", "outdated", "bare", "unreadable"}) {
+        QVERIFY(QDir().mkpath(m_folder->filePath(name + "/TemplateFolder")));
+        QVERIFY(Session::saveFile(m_folder->filePath(name + "/installation.ini"), configuration, nullptr));
+    }
+    QVERIFY(Session::saveFile(m_folder->filePath("unreadable/installation.ini"), "[JobManagement]\nnothing\n",
+                              nullptr));
+    QVERIFY(copyFiles(data + "tuner", m_folder->filePath("wrong/TemplateFolder")));
+    for (const QString name : {"outdated-number.xml", "no-version.xml"})
+        QVERIFY(QFile::copy(data + "tuner/" + name, m_folder->filePath("outdated/TemplateFolder/" + name)));
+    QVERIFY(copyFiles(data + "jobs", m_folder->filePath("jobs")));
+}
+
+TstJedtool::Result TstJedtool::run(const QString& command, const QStringList& environment)
+{
+    QProcess process;
+    process.setWorkingDirectory(m_folder->path());
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"JED_INSTALLATION", "XDG_RUNTIME_DIR", "QT_LOGGING_RULES", "QT_QPA_PLATFORM"})
+        variables.remove(name);
+    variables.insert("SOURCE_DATE_EPOCH", "1700000000");
+    for (const QString& variable : environment)
+        variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
+    process.setProcessEnvironment(variables);
+    QElapsedTimer clock;
+    clock.start();
+    process.start(JED_BINARY_DIR "/bin/jedtool", QProcess::splitCommand(command));
+    process.waitForFinished();
+    Result result;
+    result.time = clock.elapsed();
+    if (process.exitStatus() == QProcess::NormalExit)
+        result.exitCode = process.exitCode();
+    result.output = neutral(process.readAllStandardOutput());
+    result.errors = neutral(process.readAllStandardError());
+    return result;
+}
+
+// Without what differs between machines.
+QByteArray TstJedtool::neutral(QByteArray text) const
+{
+    text.replace(QFile::encodeName(m_folder->path()), "<folder>");
+    text.replace(JED_SOURCE_DIR, "<source>");
+    return text.replace(qVersion(), "<version>");
+}
+
+QString TstJedtool::transcript(const QString& command)
+{
+    const Result result = run(command);
+    QString text = QString("$ jedtool %1\n").arg(command) + QString::fromUtf8(result.output);
+    if (!result.errors.isEmpty())
+        text += "--- errors\n" + QString::fromUtf8(result.errors);
+    return text + QString("--- exit code %1\n\n").arg(result.exitCode);
+}
+
+void TstJedtool::output_data()
+{
+    QTest::addColumn<QStringList>("commands");
+    const QString search = "job new --type Search --resource HT720/HF-1 ";
+    QTest::newRow("help") << QStringList{"--help",
+                                         "--version",
+                                         "resources --help",
+                                         "resources list --help",
+                                         "resources show --help",
+                                         "resources check --help",
+                                         "job --help",
+                                         "job new --help",
+                                         "job show --help",
+                                         "job check --help"};
+    QTest::newRow("usage") << QStringList{"",
+                                          "resources",
+                                          "resorces list",
+                                          "resources lst",
+                                          "nothing",
+                                          "resources list extra",
+                                          "resources show",
+                                          "job check",
+                                          "resources list --formt json",
+                                          "resources list --format xml",
+                                          "resources list --installation",
+                                          "resources list --installation nowhere",
+                                          "resources list --installation jobs",
+                                          "resources list --installation unreadable"};
+    QTest::newRow("resources-list") << QStringList{"resources list",
+                                                   "--installation outdated resources list --format json"};
+    QTest::newRow("resources-list-faults")
+        << QStringList{"resources list --installation outdated", "resources list --installation wrong",
+                       "resources list --installation bare"};
+    QTest::newRow("resources-show") << QStringList{
+        "resources show HT720/HF-2", "resources show \"Signal recorder\"",
+        "resources show MR-1 --format json", "resources show HF-1", "resources show HT720/HF1"};
+    QTest::newRow("resources-check") << QStringList{"resources check", "resources check --installation wrong",
+                                                    "resources check --installation outdated --format json",
+                                                    "resources check --installation bare"};
+    QTest::newRow("resources-check-files") << QStringList{
+        "resources check wrong/TemplateFolder/duplicate-1.xml wrong/TemplateFolder/missing-parent.xml",
+        "resources check outdated/TemplateFolder/no-version.xml",
+        "resources check jobs/search.xml --installation bare", "resources check none.xml"};
+    QTest::newRow("job") << QStringList{
+        "job new --type Search --name \"Morning watch\" --resource HT720/HF-1 "
+        "--startup-mode Automatic --set TunerSettings/CenterFrequency=8.4145M "
+        "--set TunerSettings/ChannelName=a=b --resource TRV9KScanSettings/VUHF-1 "
+        "--set ScanSettings/Range.Detail.Threshold=15 --out job.xml",
+        "job check job.xml", "job show job.xml", "job show job.xml --format json",
+        "job check job.xml --format json"};
+    QTest::newRow("job-new-losses") << QStringList{
+        "job new --type Measurement --resource HT720/HF-2 --out lossy.xml",
+        "job check lossy.xml",
+        "job new --type Measurement --resource HT720/HF-2 --out lossy.xml --format json",
+        search + "--set StorageSettings/Format=WAV --out storage.xml",
+        "job check storage.xml --format json",
+        "job new --type Production --resource HT720/VUHF-1 --set DSCSettings/HoldTime=5s --out dsc.xml",
+        "job check dsc.xml"};
+    QTest::newRow("job-new-refused") << QStringList{
+        "job new",
+        "job new --type Search --out job.xml",
+        search,
+        search + "--out nowhere/job.xml",
+        "job new --type Serch --resource HT720/HF-1 --out job.xml",
+        "job new --type Search --resource HT720/HF1 --out job.xml",
+        "job new --type Search --set TunerSettings/Gain=1 --out job.xml",
+        search + "--set TunerSettings/Gain --out job.xml",
+        search + "--set TunerSetting/Gain=1 --out job.xml",
+        search + "--set TunerSettings/CenterFrequency=156.8M --out job.xml",
+        search + "--set TunerSettings/CenterFrequency=high --out job.xml",
+        search + "--startup-mode Never --out job.xml",
+        search + "--startup-mode Never --out job.xml --format json",
+        "job new --type Surveillance --resource HT720/HF-2 --out job.xml",
+        "job show job.xml"};
+    QTest::newRow("job-scenario") << QStringList{
+        search + "--set \"TunerSettings/ChannelName=Channel 16\" --out job.xml --print-scenario",
+        "job new --scenario jobs/watch.scenario",
+        "job check watch.xml",
+        "job new --scenario jobs/mistyped.scenario",
+        "job new --scenario jobs/missed.scenario",
+        "job new --scenario none.scenario"};
+    QTest::newRow("job-check-faults") << QStringList{"job check jobs/unknown-receiver.xml",
+                                                     "job check jobs/outside-the-schema.xml",
+                                                     "job check jobs/cut-off.xml",
+                                                     "job check jobs/no-number.xml",
+                                                     "job check none.xml",
+                                                     "job check .",
+                                                     "job show jobs/no-number.xml"};
+}
+
+void TstJedtool::output()
+{
+    QFETCH(QStringList, commands);
+    QString text;
+    for (const QString& command : commands)
+        text += transcript(command);
+    const QString file = EXPECTED_FOLDER + QString(QTest::currentDataTag()) + ".txt";
+    if (qEnvironmentVariableIsSet("JED_ACCEPT_OUTPUT")) {
+        QVERIFY(QDir().mkpath(EXPECTED_FOLDER));
+        QVERIFY(Session::saveFile(file, text.toUtf8(), nullptr));
+        QSKIP("written, not compared");
+    }
+    QByteArray expected;
+    QVERIFY2(Session::readFile(file, &expected, nullptr), qPrintable(file));
+    const QStringList lines = text.split('\n');
+    const QStringList expectedLines = QString::fromUtf8(expected).split('\n');
+    for (int i = 0; i < std::max(lines.size(), expectedLines.size()); ++i)
+        QCOMPARE(lines.value(i), expectedLines.value(i));
+}
+
+void TstJedtool::anOutdatedFileEndsInTime()
+{
+    for (const QString command : {"resources list", "resources check", "resources show NOV-1"}) {
+        const Result result = run(command + " --installation outdated");
+        QVERIFY2(result.time < MOST_TIME, qPrintable(QString::number(result.time)));
+        QCOMPARE(result.exitCode, command.contains("show") ? 0 : 1);
+    }
+}
+
+void TstJedtool::theEnvironmentNamesTheInstallation()
+{
+    const Result result = run("resources show NOV-1", {"JED_INSTALLATION=" + m_folder->filePath("outdated")});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.output.startsWith("HT720/NOV-1\n"));
+    QVERIFY(run("resources show HT720/HF-1").output.startsWith("HT720/HF-1\n"));
+    const Result option = run("resources show HF-1 --installation bare",
+                              {"JED_INSTALLATION=" + m_folder->filePath("outdated")});
+    QCOMPARE(option.exitCode, 2);
+}
+
+void TstJedtool::tracesAreShownWhenAskedFor()
+{
+    const QString command = "resources list --installation outdated";
+    QVERIFY(!run(command).errors.contains("Reading Tuner Property File"));
+    QVERIFY(run(command, {"QT_LOGGING_RULES=jobeditorve.trace=true"})
+                .errors.contains("Reading Tuner Property File: no-version.xml"));
+}
+
+QTEST_GUILESS_MAIN(TstJedtool)
+#include "tst_jedtool.moc"
