@@ -121,7 +121,8 @@ QString verbHelp(const Noun& noun, const Verb& verb)
     QString result = translate("Usage: %1\n\n%2\n").arg(usage, translate(verb.details));
     if (!verb.options.isEmpty())
         result += translate("Options:\n") + optionsHelp(verb.options) + QLatin1Char('\n');
-    return result + translate("Options of every verb:\n") + optionsHelp(COMMON_OPTIONS);
+    result += translate("Options of every verb:\n") + optionsHelp(COMMON_OPTIONS);
+    return verb.appendix ? result + QLatin1Char('\n') + verb.appendix() : result;
 }
 
 ExitCode usageError(const QString& text, const QString& next)

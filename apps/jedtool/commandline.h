@@ -49,6 +49,7 @@ struct Verb
     int maximumArguments; ///< -1: any number
     QVector<Option> options;
     ExitCode (*run)(const Invocation& invocation);
+    QString (*appendix)(); ///< what the help says at the end; null: nothing
 };
 
 /// One noun: a file of the program.

@@ -164,6 +164,14 @@ ExitCode compose(const Invocation& invocation)
     return runScenario(scenario, invocation.isJson);
 }
 
+QString scenarioHelp()
+{
+    return translate("A scenario is a text with one step a line, \"#\" before comments, double quotes round "
+                     "words with "
+                     "blanks:\n") +
+           Session::Scenario::verbsHelp();
+}
+
 ExitCode show(const Invocation& invocation)
 {
     Session::JobDocument document;
@@ -218,7 +226,8 @@ Noun jobNoun()
             QT_TRANSLATE_NOOP("jedtool", "job files"),
             {
                 {"new", "--type TYPE --resource TYPE/BASE [--set SET/FIELD=VALUE]... --out FILE",
-                 QT_TRANSLATE_NOOP("jedtool", "compose a job"), NEW_DETAILS, 0, 0, newOptions, compose},
+                 QT_TRANSLATE_NOOP("jedtool", "compose a job"), NEW_DETAILS, 0, 0, newOptions, compose,
+                 scenarioHelp},
                 {"show",
                  "FILE",
                  QT_TRANSLATE_NOOP("jedtool", "show what a job file holds"),
@@ -226,7 +235,8 @@ Noun jobNoun()
                  1,
                  1,
                  {},
-                 show},
+                 show,
+                 nullptr},
                 {"check",
                  "FILE",
                  QT_TRANSLATE_NOOP("jedtool", "check a job file"),
@@ -234,7 +244,8 @@ Noun jobNoun()
                  1,
                  1,
                  {},
-                 check},
+                 check,
+                 nullptr},
             }};
 }
 

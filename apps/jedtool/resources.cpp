@@ -154,7 +154,8 @@ Noun resourcesNoun()
                  0,
                  0,
                  {},
-                 list},
+                 list,
+                 nullptr},
                 {"show",
                  "NAME",
                  QT_TRANSLATE_NOOP("jedtool", "show a receiver and its values"),
@@ -162,7 +163,8 @@ Noun resourcesNoun()
                  1,
                  1,
                  {},
-                 show},
+                 show,
+                 nullptr},
                 {"check",
                  "[FILE...]",
                  QT_TRANSLATE_NOOP("jedtool", "check tuner property files"),
@@ -170,7 +172,8 @@ Noun resourcesNoun()
                  0,
                  -1,
                  {},
-                 check},
+                 check,
+                 nullptr},
             }};
 }
 

@@ -34,10 +34,8 @@ bool saveFile(const QString& path, const QByteArray& content, QString* error)
         return refuse(error, file.errorString());
     // A short write sets no error, and commit() does not look at what its own flush gives.
     if (file.write(content) != content.size() || !file.flush()) {
-        const QString reason = file.error() == QFileDevice::NoError ? text("not everything could be written")
-                                                                    : file.errorString();
         file.cancelWriting();
-        return refuse(error, reason);
+        return refuse(error, text("not everything could be written, the disk may be full"));
     }
     return file.commit() || refuse(error, file.errorString());
 }

@@ -25,6 +25,7 @@ private slots:
     void output_data();
     void output();
     void anOutdatedFileEndsInTime();
+    void aFullDiskLeavesTheOldFile();
     void theEnvironmentNamesTheInstallation();
     void tracesAreShownWhenAskedFor();
 
@@ -220,6 +221,28 @@ void TstJedtool::anOutdatedFileEndsInTime()
         QVERIFY2(result.time < MOST_TIME, qPrintable(QString::number(result.time)));
         QCOMPARE(result.exitCode, command.contains("show") ? 0 : 1);
     }
+}
+
+// The process may not write files of more than eight blocks, which looks to it like a full disk.
+void TstJedtool::aFullDiskLeavesTheOldFile()
+{
+    QVERIFY(Session::saveFile(m_folder->filePath("job.xml"), "the old one", nullptr));
+    QProcess shell;
+    shell.setWorkingDirectory(m_folder->path());
+    shell.start("sh",
+                {"-c", "trap '' XFSZ; ulimit -f 8; exec " JED_BINARY_DIR "/bin/jedtool job new --type Search "
+                       "--resource HT720/HF-1 --resource HT720/VUHF-1 --out job.xml"});
+    QVERIFY(shell.waitForFinished());
+    QCOMPARE(shell.exitCode(), 3);
+    QCOMPARE(shell.readAllStandardOutput(), QByteArray());
+    QCOMPARE(shell.readAllStandardError(),
+             QByteArray(
+                 "job.xml: error: cannot be written: not everything could be written, the disk may be full\n"
+                 "    The file is as it was before.\n"));
+    QByteArray content;
+    QVERIFY(Session::readFile(m_folder->filePath("job.xml"), &content, nullptr));
+    QCOMPARE(content, QByteArray("the old one"));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{"job.xml"});
 }
 
 void TstJedtool::theEnvironmentNamesTheInstallation()
