@@ -32,7 +32,8 @@ const char* const EXIT_CODES =
     QT_TRANSLATE_NOOP("jedtool", "Exit codes: 0 clean, 1 findings, 2 wrong usage, 3 internal fault\n");
 
 const char* const TRACES = QT_TRANSLATE_NOOP(
-    "jedtool", "QT_LOGGING_RULES=jobeditorve.trace=true in the environment shows what the library traces.\n");
+    "jedtool", "QT_LOGGING_RULES=jobeditorve.trace=true in the environment shows what the library traces.\n"
+               "Next: jedtool NOUN --help\n");
 
 const QVector<Noun>& nouns()
 {
@@ -76,7 +77,7 @@ QString summaries(const Table& table)
 {
     QVector<QPair<QString, QString>> rows;
     for (const auto& row : table)
-        rows.append({QLatin1String(row.name), translate(row.summary)});
+        rows.append({QLatin1String(row.name), Texts::tr(row.summary)});
     return columns(rows);
 }
 
@@ -88,26 +89,26 @@ QString optionsHelp(const Table& options)
         QString name = QLatin1String("--") + QLatin1String(option.name);
         if (option.valueName)
             name += QLatin1Char(' ') + QLatin1String(option.valueName);
-        rows.append({name, translate(option.help)});
+        rows.append({name, Texts::tr(option.help)});
     }
     return columns(rows);
 }
 
 QString programHelp()
 {
-    return translate("Usage: jedtool NOUN VERB [ARGUMENT...] [OPTION...]\n\n"
+    return Texts::tr("Usage: jedtool NOUN VERB [ARGUMENT...] [OPTION...]\n\n"
                      "Looks at the receivers of an installation; composes, shows and checks jobs.\n\n") +
-           translate("Nouns:\n") + summaries(nouns()) + translate("\nOptions of every verb:\n") +
-           optionsHelp(COMMON_OPTIONS) + QLatin1Char('\n') + translate(EXAMPLES) + QLatin1Char('\n') +
-           translate(EXIT_CODES) + translate(TRACES) + translate("Next: jedtool NOUN --help\n");
+           Texts::tr("Nouns:\n") + summaries(nouns()) + Texts::tr("\nOptions of every verb:\n") +
+           optionsHelp(COMMON_OPTIONS) + QLatin1Char('\n') + Texts::tr(EXAMPLES) + QLatin1Char('\n') +
+           Texts::tr(EXIT_CODES) + Texts::tr(TRACES);
 }
 
 QString nounHelp(const Noun& noun)
 {
-    return translate("Usage: jedtool %1 VERB [ARGUMENT...] [OPTION...]\n\nVerbs:\n")
+    return Texts::tr("Usage: jedtool %1 VERB [ARGUMENT...] [OPTION...]\n\nVerbs:\n")
                .arg(QLatin1String(noun.name)) +
            summaries(noun.verbs) +
-           translate("\nNext: jedtool %1 VERB --help\n").arg(QLatin1String(noun.name));
+           Texts::tr("\nNext: jedtool %1 VERB --help\n").arg(QLatin1String(noun.name));
 }
 
 QString commandOf(const Noun& noun, const Verb& verb)
@@ -117,18 +118,18 @@ QString commandOf(const Noun& noun, const Verb& verb)
 
 QString verbHelp(const Noun& noun, const Verb& verb)
 {
-    const QString usage = (commandOf(noun, verb) + QLatin1Char(' ') + translate(verb.synopsis)).trimmed();
-    QString result = translate("Usage: %1\n\n%2\n").arg(usage, translate(verb.details));
+    const QString usage = (commandOf(noun, verb) + QLatin1Char(' ') + Texts::tr(verb.synopsis)).trimmed();
+    QString result = Texts::tr("Usage: %1\n\n%2\n").arg(usage, Texts::tr(verb.details));
     if (!verb.options.isEmpty())
-        result += translate("Options:\n") + optionsHelp(verb.options) + QLatin1Char('\n');
-    result += translate("Options of every verb:\n") + optionsHelp(COMMON_OPTIONS);
+        result += Texts::tr("Options:\n") + optionsHelp(verb.options) + QLatin1Char('\n');
+    result += Texts::tr("Options of every verb:\n") + optionsHelp(COMMON_OPTIONS);
     return verb.appendix ? result + QLatin1Char('\n') + verb.appendix() : result;
 }
 
 ExitCode usageError(const QString& text, const QString& next)
 {
-    printError(translate("jedtool: %1").arg(text));
-    printError(translate("Next: %1").arg(next));
+    printError(Texts::tr("jedtool: %1").arg(text));
+    printError(Texts::tr("Next: %1").arg(next));
     return USAGE;
 }
 
@@ -179,8 +180,8 @@ bool chooseInstallation(const QString& folder)
     QString error;
     if (Session::chooseInstallation(folder, QStringLiteral(JED_EXAMPLE_INSTALLATION), &error))
         return true;
-    printError(translate("jedtool: %1").arg(error));
-    printError(translate("Next: give the folder of an installation with --installation DIR"));
+    printError(Texts::tr("jedtool: %1").arg(error));
+    printError(Texts::tr("Next: give the folder of an installation with --installation DIR"));
     return false;
 }
 
@@ -193,17 +194,17 @@ QString parserFault(const QCommandLineParser& parser, const Verb& verb)
     for (const QString& name : namesOf(verb.options) + namesOf(COMMON_OPTIONS))
         known.append(QLatin1String("--") + name);
     const QString unknown = QLatin1String("--") + parser.unknownOptionNames().first();
-    return translate("there is no option %1.%2").arg(unknown, Session::suggestion(unknown, known));
+    return Texts::tr("there is no option %1.%2").arg(unknown, Session::suggestion(unknown, known));
 }
 
 // Null, or what is wrong with what was parsed.
 QString usageFault(const QCommandLineParser& parser, const Noun& noun, const Verb& verb)
 {
     if (parser.isSet(FORMAT_OPTION) && !FORMATS.contains(parser.value(FORMAT_OPTION)))
-        return translate("the format is text or json, not \"%1\"").arg(parser.value(FORMAT_OPTION));
+        return Texts::tr("the format is text or json, not \"%1\"").arg(parser.value(FORMAT_OPTION));
     const int count = parser.positionalArguments().size() - NOUN_AND_VERB;
     if (count < verb.minimumArguments || (verb.maximumArguments >= 0 && count > verb.maximumArguments))
-        return translate("usage: %1 %2").arg(commandOf(noun, verb), translate(verb.synopsis)).trimmed();
+        return Texts::tr("usage: %1 %2").arg(commandOf(noun, verb), Texts::tr(verb.synopsis)).trimmed();
     return QString();
 }
 
@@ -261,7 +262,7 @@ ExitCode runCommandLine(const QStringList& arguments)
 {
     const bool helpAsked = arguments.contains(QLatin1String("--help"));
     if (arguments.contains(QLatin1String("--version"))) {
-        print(translate("jedtool %1 (library interface %2, Qt %3)\n")
+        print(Texts::tr("jedtool %1 (library interface %2, Qt %3)\n")
                   .arg(QStringLiteral(JED_VERSION), QString::number(JEDVEPB_INTERFACE_VERSION),
                        QLatin1String(qVersion())));
         return CLEAN;
@@ -271,7 +272,7 @@ ExitCode runCommandLine(const QStringList& arguments)
         return printHelp(programHelp(), helpAsked);
     const Noun* noun = findByName(nouns(), words.at(0));
     if (!noun)
-        return usageError(translate("there is no noun \"%1\".%2")
+        return usageError(Texts::tr("there is no noun \"%1\".%2")
                               .arg(words.at(0), Session::suggestion(words.at(0), namesOf(nouns()))),
                           QStringLiteral("jedtool --help"));
     if (words.size() == 1)
@@ -279,15 +280,10 @@ ExitCode runCommandLine(const QStringList& arguments)
     const Verb* verb = findByName(noun->verbs, words.at(1));
     if (!verb)
         return usageError(
-            translate("%1 has no verb \"%2\".%3")
+            Texts::tr("%1 has no verb \"%2\".%3")
                 .arg(words.at(0), words.at(1), Session::suggestion(words.at(1), namesOf(noun->verbs))),
             QStringLiteral("jedtool %1 --help").arg(words.at(0)));
     return helpAsked ? printHelp(verbHelp(*noun, *verb), true) : runVerb(*noun, *verb, arguments);
-}
-
-QString translate(const char* source)
-{
-    return QCoreApplication::translate("jedtool", source);
 }
 
 void print(const QString& text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QPair>
 #include <QString>
 #include <QStringList>
@@ -9,6 +10,12 @@
 /// The frame of jedtool: nouns with verbs, their options, help and exit codes. A noun is a table in a source file of
 /// its own.
 namespace JedTool {
+
+/// tr() for the texts of the program, also those of its tables.
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(jedtool)
+};
 
 enum ExitCode {
     CLEAN = 0,    ///< done, nothing to tell
@@ -65,9 +72,6 @@ Noun jobNoun();
 
 /// Runs what the arguments (without the program's name) ask for.
 ExitCode runCommandLine(const QStringList& arguments);
-
-/// Translates a text of the tables.
-QString translate(const char* source);
 
 /// Writes to the standard output.
 void print(const QString& text);

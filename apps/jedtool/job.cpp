@@ -44,8 +44,8 @@ void printJson(const QJsonObject& object)
 
 ExitCode usageError(const QString& text)
 {
-    printError(translate("jedtool: %1").arg(text));
-    printError(translate("Next: jedtool job new --help"));
+    printError(Texts::tr("jedtool: %1").arg(text));
+    printError(Texts::tr("Next: jedtool job new --help"));
     return USAGE;
 }
 
@@ -68,7 +68,7 @@ int appendSubjob(const QVector<QPair<QString, QString>>& options, int begin, Ses
         if (options.at(i).first != QLatin1String("set"))
             continue;
         if (!value.contains(QLatin1Char('=')))
-            *fault = translate("--set %1 has no \"=\"; write --set SET/FIELD=VALUE").arg(value);
+            *fault = Texts::tr("--set %1 has no \"=\"; write --set SET/FIELD=VALUE").arg(value);
         values.append({value.section(QLatin1Char('='), 0, 0), value.section(QLatin1Char('='), 1)});
     }
     QStringList add{options.at(begin).second};
@@ -85,9 +85,9 @@ QString scenarioFromOptions(const Invocation& invocation, Session::Scenario* sce
 {
     QString fault;
     if (!invocation.isSet(QStringLiteral("type")))
-        return translate("give the type of the job with --type, or a scenario with --scenario");
+        return Texts::tr("give the type of the job with --type, or a scenario with --scenario");
     if (!invocation.isSet(QStringLiteral("out")))
-        return translate("say with --out which file to write");
+        return Texts::tr("say with --out which file to write");
     QStringList begin{invocation.value(QStringLiteral("type"))};
     if (invocation.isSet(QStringLiteral("name")))
         begin.append(invocation.value(QStringLiteral("name")));
@@ -99,12 +99,12 @@ QString scenarioFromOptions(const Invocation& invocation, Session::Scenario* sce
             continue;
         }
         if (name == QLatin1String("set") || name == QLatin1String("startup-mode"))
-            return translate("--%1 %2 stands before the first --resource, so it belongs to no sub-job")
+            return Texts::tr("--%1 %2 stands before the first --resource, so it belongs to no sub-job")
                 .arg(name, invocation.options.at(i).second);
         ++i;
     }
     if (scenario->steps().size() == 1)
-        return translate("give at least one receiver with --resource TYPE/BASE");
+        return Texts::tr("give at least one receiver with --resource TYPE/BASE");
     scenario->append(QStringLiteral("save"), {invocation.value(QStringLiteral("out"))});
     return fault;
 }
@@ -117,7 +117,7 @@ bool readScenario(const QString& path, Session::Scenario* scenario)
     QString reason;
     const bool isRead = Session::readFile(path, &bytes, &reason);
     if (!isRead)
-        finding.text = translate("cannot be read: %1").arg(reason);
+        finding.text = Texts::tr("cannot be read: %1").arg(reason);
     if (isRead && scenario->parse(Session::decodedText(bytes), path, &finding))
         return true;
     printFindings({finding});
@@ -137,7 +137,7 @@ ExitCode runScenario(const Session::Scenario& scenario, bool isJson)
         printFindings(runner.findings());
     for (const QString& file : runner.savedFiles()) {
         if (!isJson)
-            print(translate("%1: written, sub-jobs: %2\nNext: jedtool job check %1\n")
+            print(Texts::tr("%1: written, sub-jobs: %2\nNext: jedtool job check %1\n")
                       .arg(file, QString::number(runner.subjobCount())));
     }
     if (outcome == Session::ScenarioRunner::DONE)
@@ -166,7 +166,7 @@ ExitCode compose(const Invocation& invocation)
 
 QString scenarioHelp()
 {
-    return translate("A scenario is a text with one step a line, \"#\" before comments, double quotes round "
+    return Texts::tr("A scenario is a text with one step a line, \"#\" before comments, double quotes round "
                      "words with "
                      "blanks:\n") +
            Session::Scenario::verbsHelp();
@@ -200,8 +200,8 @@ ExitCode check(const Invocation& invocation)
         for (const Session::Finding& finding : findings)
             print(finding.toText() + QLatin1Char('\n'));
         print(Session::needsAttention(findings)
-                  ? translate("%1: findings: %2\n").arg(path, QString::number(findings.size()))
-                  : translate("%1: clean, sub-jobs: %2\n")
+                  ? Texts::tr("%1: findings: %2\n").arg(path, QString::number(findings.size()))
+                  : Texts::tr("%1: clean, sub-jobs: %2\n")
                         .arg(path, QString::number(document.job().GetSubjob().size())));
     }
     return Session::needsAttention(findings) ? FINDINGS : CLEAN;

@@ -34,7 +34,7 @@ int main(int argc, char** argv)
         return JedTool::runCommandLine(application->arguments().mid(1));
     } catch (const std::exception& fault) {
         JedTool::printError(
-            JedTool::translate("jedtool: internal fault: %1").arg(QString::fromUtf8(fault.what())));
+            JedTool::Texts::tr("jedtool: internal fault: %1").arg(QString::fromUtf8(fault.what())));
         return JedTool::INTERNAL;
     }
 }

@@ -54,13 +54,13 @@ ExitCode list(const Invocation& invocation)
     const QString folder = Session::templateFolder();
     const int files = Session::resourceFiles(folder).size();
     if (resources.isEmpty())
-        printError(translate("jedtool: there are no receivers in %1").arg(folder));
+        printError(Texts::tr("jedtool: there are no receivers in %1").arg(folder));
     else if (files > resources.size())
-        printError(translate("jedtool: %1 of %2 files in %3 were not accepted")
+        printError(Texts::tr("jedtool: %1 of %2 files in %3 were not accepted")
                        .arg(QString::number(files - resources.size()), QString::number(files), folder));
     else
         return CLEAN;
-    printError(translate("Next: jedtool resources check"));
+    printError(Texts::tr("Next: jedtool resources check"));
     return FINDINGS;
 }
 
@@ -93,10 +93,10 @@ ExitCode show(const Invocation& invocation)
     if (found.size() != 1) {
         const QString hint =
             found.isEmpty() ? Session::suggestion(wanted, namesOf(resources))
-                            : translate(" Write one of %1.").arg(namesOf(found).join(QLatin1String(", ")));
+                            : Texts::tr(" Write one of %1.").arg(namesOf(found).join(QLatin1String(", ")));
         printError(
-            translate("jedtool: no receiver of the installation is called \"%1\".%2").arg(wanted, hint));
-        printError(translate("Next: jedtool resources list"));
+            Texts::tr("jedtool: no receiver of the installation is called \"%1\".%2").arg(wanted, hint));
+        printError(Texts::tr("Next: jedtool resources list"));
         return USAGE;
     }
     if (invocation.isJson)
@@ -131,7 +131,7 @@ ExitCode check(const Invocation& invocation)
     else
         print(resourceFilesToText(files));
     if (files.isEmpty()) {
-        printError(translate("jedtool: there are no files in %1").arg(Session::templateFolder()));
+        printError(Texts::tr("jedtool: there are no files in %1").arg(Session::templateFolder()));
         return FINDINGS;
     }
     for (const Session::ResourceFile& file : files) {

@@ -36,12 +36,12 @@ QStringList componentNamesOf(const ResourceDescription& resource)
 QVector<QPair<QString, QString>> properties(const ResourceDescription& resource)
 {
     return {
-        {translate("name"), resource.getName()},
-        {translate("quantity"), QString::number(resource.getQuantity())},
-        {translate("parent"), resource.getParentBaseResource()},
-        {translate("connectable"), joined(resource.getConnectableResources())},
-        {translate("start-up modes"), joined(resource.getStartupModes())},
-        {translate("version"), resource.getVersion()},
+        {Texts::tr("name"), resource.getName()},
+        {Texts::tr("quantity"), QString::number(resource.getQuantity())},
+        {Texts::tr("parent"), resource.getParentBaseResource()},
+        {Texts::tr("connectable"), joined(resource.getConnectableResources())},
+        {Texts::tr("start-up modes"), joined(resource.getStartupModes())},
+        {Texts::tr("version"), resource.getVersion()},
     };
 }
 
@@ -49,7 +49,7 @@ QString setText(const Node& set)
 {
     QString result = QStringLiteral("    %1").arg(set.GetId());
     if (!Session::isCarriedByJobFile(set.GetId()))
-        result += translate("  (a job file cannot hold it)");
+        result += Texts::tr("  (a job file cannot hold it)");
     Session::TextTable table(6);
     for (const ValueBase* value : set.GetValues()) {
         const REPORTGENERATOR::Field* field =
@@ -64,7 +64,7 @@ QString componentText(const JEDVEPLUGIN::ComponentDescriptor& component)
 {
     QString result = QLatin1String("  ") + component.getComponentName();
     if (component.isOptional())
-        result += translate("  (optional)");
+        result += Texts::tr("  (optional)");
     result += QLatin1Char('\n');
     Node root;
     component.createVTConfig(&root);
@@ -125,8 +125,8 @@ int countOf(const QList<ResourceFile>& files, ResourceFile::Verdict verdict)
 QString resourcesToText(const QList<std::shared_ptr<ResourceDescription>>& resources)
 {
     Session::TextTable table;
-    table.append({translate("RESOURCE"), translate("NAME"), translate("QUANTITY"), translate("PARENT"),
-                  translate("START-UP MODES")});
+    table.append({Texts::tr("RESOURCE"), Texts::tr("NAME"), Texts::tr("QUANTITY"), Texts::tr("PARENT"),
+                  Texts::tr("START-UP MODES")});
     for (const auto& resource : resources)
         table.append({Session::resourceKey(*resource), resource->getName(),
                       QString::number(resource->getQuantity()), resource->getParentBaseResource(),
@@ -171,7 +171,7 @@ QString resourceFilesToText(const QList<ResourceFile>& files)
     QString findings;
     int count = 0;
     for (const ResourceFile& file : files) {
-        table.append({translate(VERDICT_NAMES[file.verdict]),
+        table.append({Texts::tr(VERDICT_NAMES[file.verdict]),
                       file.description ? Session::resourceKey(*file.description) : QStringLiteral("-"),
                       file.path});
         for (const Session::Finding& finding : file.findings)
@@ -179,7 +179,7 @@ QString resourceFilesToText(const QList<ResourceFile>& files)
         count += file.findings.size();
     }
     return table.toText() + findings +
-           translate("files: %1 accepted, %2 outdated, %3 skipped; findings: %4\n")
+           Texts::tr("files: %1 accepted, %2 outdated, %3 skipped; findings: %4\n")
                .arg(QString::number(countOf(files, ResourceFile::ACCEPTED)),
                     QString::number(countOf(files, ResourceFile::OUTDATED)),
                     QString::number(countOf(files, ResourceFile::SKIPPED)), QString::number(count));

@@ -10,10 +10,10 @@ namespace {
 constexpr int ADMINISTRATION_VIEW = 2;
 constexpr int JOB_MANAGEMENT_VIEW = 4;
 
-QString translate(const char* source)
+class Texts
 {
-    return QCoreApplication::translate("Session::Installation", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Session::Installation)
+};
 } // namespace
 
 namespace Session {
@@ -26,9 +26,9 @@ bool chooseInstallation(const QString& folder, const QString& exampleFolder, QSt
     const QString chosen = center->GetInstallation();
     const QString iniFile = QDir(chosen).filePath(QLatin1String(CfgCenter::INI_FILE_NAME));
     if (!QFileInfo(chosen).isDir())
-        *error = translate("the installation folder %1 does not exist").arg(chosen);
+        *error = Texts::tr("the installation folder %1 does not exist").arg(chosen);
     else if (!QFileInfo(iniFile).isFile())
-        *error = translate("%1 is no installation: it has no %2")
+        *error = Texts::tr("%1 is no installation: it has no %2")
                      .arg(chosen, QLatin1String(CfgCenter::INI_FILE_NAME));
     else
         *error = center->GetProblems().join(QLatin1Char('\n'));

@@ -21,10 +21,10 @@ using JobXml::ParameterSetText;
 namespace {
 const char* const JOB_TYPE_NAMES[] = {"Production", "Search", "Surveillance", "DFScan", "Measurement"};
 
-QString translate(const char* source)
+class Texts
 {
-    return QCoreApplication::translate("Session::JobComposer", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Session::JobComposer)
+};
 
 QStringList jobTypeNames()
 {
@@ -54,14 +54,14 @@ void composeSet(const Node& set, const QString& place, JobXml::Subjob* subjob, S
     ParameterSetText::Report report;
     const QString xml = ParameterSetText::toText(set, QString(), &report);
     for (const QString& id : report.valuesWithoutField)
-        warn(translate("%1/%2 is lost: the parameter set has no such field").arg(name, id), QString());
+        warn(Texts::tr("%1/%2 is lost: the parameter set has no such field").arg(name, id), QString());
     for (const QString& id : report.textsNotConverted)
-        warn(translate("%1/%2 is lost: its field does not take \"%3\"")
+        warn(Texts::tr("%1/%2 is lost: its field does not take \"%3\"")
                  .arg(name, id, set.GetChild(id)->GetText()),
              QString());
     for (const QString& part : Session::lostParts(name, xml))
-        warn(translate("%1 is lost: a job file cannot hold it").arg(part),
-             translate("The receiver keeps the values that it has."));
+        warn(Texts::tr("%1 is lost: a job file cannot hold it").arg(part),
+             Texts::tr("The receiver keeps the values that it has."));
     if (Session::isCarriedByJobFile(name))
         Session::putParameterSet(name, xml, subjob);
 }
@@ -87,8 +87,8 @@ JobComposer::~JobComposer() = default;
 bool JobComposer::begin(const QString& type, const QString& name)
 {
     if (JEDCommonHelper::StringToJobType(type) < 0)
-        return refuse(translate("there is no type of job \"%1\"").arg(type),
-                      translate("Types are %1.").arg(jobTypeNames().join(QLatin1String(", "))) +
+        return refuse(Texts::tr("there is no type of job \"%1\"").arg(type),
+                      Texts::tr("Types are %1.").arg(jobTypeNames().join(QLatin1String(", "))) +
                           suggestion(type, jobTypeNames()));
     m_type = type;
     m_name = name.isEmpty() ? type : name;
@@ -100,7 +100,7 @@ bool JobComposer::begin(const QString& type, const QString& name)
 bool JobComposer::addSubjob(const QString& resource, const QString& startupMode)
 {
     if (m_type.isEmpty())
-        return refuse(translate("no job was begun"), translate("Begin with: new TYPE [NAME]"));
+        return refuse(Texts::tr("no job was begun"), Texts::tr("Begin with: new TYPE [NAME]"));
     QStringList keys;
     std::shared_ptr<ResourceDescription> found;
     for (const std::shared_ptr<ResourceDescription>& candidate : m_resources) {
@@ -109,8 +109,8 @@ bool JobComposer::addSubjob(const QString& resource, const QString& startupMode)
             found = candidate;
     }
     if (!found)
-        return refuse(translate("the installation offers no \"%1\"").arg(resource),
-                      translate("jedtool resources list shows what it offers.") + suggestion(resource, keys));
+        return refuse(Texts::tr("the installation offers no \"%1\"").arg(resource),
+                      Texts::tr("jedtool resources list shows what it offers.") + suggestion(resource, keys));
     const QString mode = chooseStartupMode(*found, startupMode);
     if (mode.isEmpty())
         return false;
@@ -126,8 +126,8 @@ bool JobComposer::addSubjob(const QString& resource, const QString& startupMode)
 bool JobComposer::selectSubjob(int number)
 {
     if (number < 1 || number > subjobCount())
-        return refuse(translate("there is no sub-job %1").arg(number),
-                      translate("The job has %1.").arg(subjobCount()));
+        return refuse(Texts::tr("there is no sub-job %1").arg(number),
+                      Texts::tr("The job has %1.").arg(subjobCount()));
     m_current = m_subjobs[size_t(number - 1)].get();
     return true;
 }
@@ -148,13 +148,13 @@ bool JobComposer::setValue(const QString& path, const QString& text)
 ValueBase* JobComposer::value(const QString& path)
 {
     if (!m_current) {
-        refuse(translate("there is no sub-job"), translate("Add one with: add TYPE/BASE"));
+        refuse(Texts::tr("there is no sub-job"), Texts::tr("Add one with: add TYPE/BASE"));
         return nullptr;
     }
     ValueBase* const found = m_current->tree.value(path);
     if (!found)
-        refuse(translate("%1 has no value \"%2\"").arg(resourceKey(*m_current->resource), path),
-               translate("jedtool resources show %1 lists them.").arg(resourceKey(*m_current->resource)) +
+        refuse(Texts::tr("%1 has no value \"%2\"").arg(resourceKey(*m_current->resource), path),
+               Texts::tr("jedtool resources show %1 lists them.").arg(resourceKey(*m_current->resource)) +
                    suggestion(path, m_current->tree.valuePaths()));
     return found;
 }
@@ -162,7 +162,7 @@ ValueBase* JobComposer::value(const QString& path)
 bool JobComposer::compose(JobDocument* document, Findings* findings)
 {
     if (m_type.isEmpty())
-        return refuse(translate("no job was begun"), translate("Begin with: new TYPE [NAME]"));
+        return refuse(Texts::tr("no job was begun"), Texts::tr("Begin with: new TYPE [NAME]"));
     JobXml::Job job;
     JobXml::JobInformation& information = job.GetJobInformation();
     information.SetJobType(JEDCommonHelper::JobTypeToJobXmlType(JEDCommonHelper::StringToJobType(m_type)));
@@ -170,7 +170,7 @@ bool JobComposer::compose(JobDocument* document, Findings* findings)
     information.SetCreated(timeOfMaking());
     for (size_t i = 0; i < m_subjobs.size(); ++i) {
         const QString place =
-            translate("sub-job %1, %2").arg(QString::number(i + 1), resourceKey(*m_subjobs[i]->resource));
+            Texts::tr("sub-job %1, %2").arg(QString::number(i + 1), resourceKey(*m_subjobs[i]->resource));
         job.AppendSubjob(composeSubjob(*m_subjobs[i], place, findings));
     }
     document->job() = job;
@@ -191,12 +191,12 @@ QString JobComposer::chooseStartupMode(const ResourceDescription& resource, cons
         return mode;
     if (modes.isEmpty())
         refuse(
-            translate("%1 offers no start-up mode for a job of type %2").arg(resourceKey(resource), m_type),
-            translate("It offers %1.").arg(resource.getStartupModes().join(QLatin1String(", "))));
+            Texts::tr("%1 offers no start-up mode for a job of type %2").arg(resourceKey(resource), m_type),
+            Texts::tr("It offers %1.").arg(resource.getStartupModes().join(QLatin1String(", "))));
     else
-        refuse(translate("%1 does not offer the start-up mode \"%2\" for a job of type %3")
+        refuse(Texts::tr("%1 does not offer the start-up mode \"%2\" for a job of type %3")
                    .arg(resourceKey(resource), wanted, m_type),
-               translate("It offers %1.").arg(modes.join(QLatin1String(", "))) + suggestion(wanted, modes));
+               Texts::tr("It offers %1.").arg(modes.join(QLatin1String(", "))) + suggestion(wanted, modes));
     return QString();
 }
 

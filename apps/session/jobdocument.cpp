@@ -5,10 +5,10 @@
 #include <QCoreApplication>
 
 namespace {
-QString translate(const char* source)
+class Texts
 {
-    return QCoreApplication::translate("Session::JobDocument", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Session::JobDocument)
+};
 } // namespace
 
 namespace Session {
@@ -19,18 +19,18 @@ bool JobDocument::load(const QString& path, Findings* findings)
     QString reason;
     if (!readFile(path, &bytes, &reason)) {
         findings->append(
-            {Finding::FAILURE, path, 0, 0, translate("cannot be read: %1").arg(reason), QString()});
+            {Finding::FAILURE, path, 0, 0, Texts::tr("cannot be read: %1").arg(reason), QString()});
         return false;
     }
     JobXml::Job job;
     if (!job.SetXmlString(decodedText(bytes), true)) {
         findings->append({Finding::FAILURE, path, job.GetCheckLine(), job.GetCheckColumn(),
-                          job.GetCheckReason(), translate("This is no job file, or it is damaged.")});
+                          job.GetCheckReason(), Texts::tr("This is no job file, or it is damaged.")});
         return false;
     }
     for (const REPORTGENERATOR::Problem& problem : job.problems()) {
         findings->append({Finding::WARNING, path, problem.line, problem.column, problem.reason,
-                          translate("The text is kept as it stands, but it counts for nothing.")});
+                          Texts::tr("The text is kept as it stands, but it counts for nothing.")});
     }
     m_job = job;
     m_path = path;
@@ -46,8 +46,8 @@ bool JobDocument::save(const QString& path, Findings* findings)
         return false;
     if (saveFile(path, text(), &reason))
         return true;
-    findings->append({Finding::FAILURE, path, 0, 0, translate("cannot be written: %1").arg(reason),
-                      translate("The file is as it was before.")});
+    findings->append({Finding::FAILURE, path, 0, 0, Texts::tr("cannot be written: %1").arg(reason),
+                      Texts::tr("The file is as it was before.")});
     return false;
 }
 
@@ -59,7 +59,7 @@ bool JobDocument::validate(Findings* findings)
     if (!isValid)
         findings->append({Finding::FAILURE, m_path, m_job.GetCheckLine(), m_job.GetCheckColumn(),
                           m_job.GetCheckReason(),
-                          translate("The job does not follow the schema of job files.")});
+                          Texts::tr("The job does not follow the schema of job files.")});
     return isValid;
 }
 

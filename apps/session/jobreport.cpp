@@ -16,10 +16,10 @@ using JEDVEPLUGIN::JEDCommonHelper;
 using JobXml::ParameterSetText;
 
 namespace {
-QString translate(const char* source)
+class Texts
 {
-    return QCoreApplication::translate("Session::JobReport", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Session::JobReport)
+};
 
 QString keyOf(const JobXml::Subjob& subjob)
 {
@@ -34,7 +34,7 @@ class SubjobChecker
 public:
     SubjobChecker(const QString& file, int number, const JobXml::Subjob& subjob, Session::Findings* findings)
         : m_file(file)
-        , m_title(translate("sub-job %1, %2").arg(QString::number(number), keyOf(subjob)))
+        , m_title(Texts::tr("sub-job %1, %2").arg(QString::number(number), keyOf(subjob)))
         , m_subjob(subjob)
         , m_findings(findings)
     {
@@ -51,7 +51,7 @@ public:
                 return;
             }
         }
-        warn(translate("the installation does not offer this receiver"),
+        warn(Texts::tr("the installation does not offer this receiver"),
              Session::suggestion(keyOf(m_subjob), keys).trimmed());
     }
 
@@ -66,9 +66,9 @@ private:
     {
         const QString mode = JobXml::Subjob::StartupModeToName(m_subjob.GetStartupMode());
         if (!modes.contains(mode))
-            warn(translate("the receiver does not offer the start-up mode \"%1\" for this type of job")
+            warn(Texts::tr("the receiver does not offer the start-up mode \"%1\" for this type of job")
                      .arg(mode),
-                 translate("It offers %1.").arg(modes.join(QLatin1String(", "))));
+                 Texts::tr("It offers %1.").arg(modes.join(QLatin1String(", "))));
     }
 
     void checkSets(const JEDVEPLUGIN::ResourceDescription& resource)
@@ -82,8 +82,8 @@ private:
         }
         for (const Node* set : tree.setsInUse(names)) {
             for (const QString& part : Session::lostParts(set->GetId(), ParameterSetText::toText(*set)))
-                warn(translate("the receiver has %1, which a job file cannot hold").arg(part),
-                     translate("The receiver keeps the values that it has."));
+                warn(Texts::tr("the receiver has %1, which a job file cannot hold").arg(part),
+                     Texts::tr("The receiver keeps the values that it has."));
         }
     }
 
@@ -93,16 +93,16 @@ private:
         const QString name = QLatin1String(carried.set->name);
         Node* const node = tree->set(name);
         if (!node) {
-            warn(translate("the receiver does not have the parameter set %1").arg(name));
+            warn(Texts::tr("the receiver does not have the parameter set %1").arg(name));
             return;
         }
         ParameterSetText::Report report;
         ParameterSetText::fromText(*node, carried.xml, &report);
         for (const QString& id : report.textsNotConverted + report.valuesClamped)
-            warn(translate("%1/%2 does not fit the receiver").arg(name, id),
-                 translate("jedtool resources show %1 tells what does.").arg(keyOf(m_subjob)));
+            warn(Texts::tr("%1/%2 does not fit the receiver").arg(name, id),
+                 Texts::tr("jedtool resources show %1 tells what does.").arg(keyOf(m_subjob)));
         if (report.isClean() && !holds(ParameterSetText::toText(*node, carried.xml), carried))
-            warn(translate("%1 does not come back from the value tree as it was").arg(name));
+            warn(Texts::tr("%1 does not come back from the value tree as it was").arg(name));
     }
 
     // Whether all that the sub-job's text sets is set to the same in the other text.
@@ -135,11 +135,11 @@ Findings checkJob(JobDocument* document, const JobComposer::Resources& resources
     const QByteArray text = document->text();
     if (!again.job().SetXmlString(QString::fromUtf8(text), true) || again.text() != text)
         findings.append({Finding::FAILURE, document->path(), 0, 0,
-                         translate("saving and loading again does not give the same job"), QString()});
+                         Texts::tr("saving and loading again does not give the same job"), QString()});
     else if (text != document->loadedText())
         findings.append({Finding::NOTE, document->path(), 0, 0,
-                         translate("saving brings the file into our layout"),
-                         translate("Nothing that it says is changed.")});
+                         Texts::tr("saving brings the file into our layout"),
+                         Texts::tr("Nothing that it says is changed.")});
     const JobXml::Job& job = document->job();
     const JEDVE::enJOB_TYPE jobType =
         JEDCommonHelper::jobXmlTypeToJobType(job.GetJobInformation().GetJobType());

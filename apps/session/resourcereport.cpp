@@ -20,10 +20,10 @@ using JEDVEPLUGIN::ParameterSetMapper;
 using JEDVEPLUGIN::ResourceDescription;
 
 namespace {
-QString translate(const char* source)
+class Texts
 {
-    return QCoreApplication::translate("Session::ResourceReport", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Session::ResourceReport)
+};
 
 // Collects the findings of one file; knows where its elements begin.
 class FileExaminer
@@ -52,7 +52,7 @@ private:
     void examineComponent(const JobXml::Component& component, const QString& path)
     {
         if (ParameterSetMapper::getParameterSetNames(component.Getname()).isEmpty()) {
-            warn(path, translate("no component is called \"%1\"").arg(component.Getname()),
+            warn(path, Texts::tr("no component is called \"%1\"").arg(component.Getname()),
                  Session::suggestion(component.Getname(), Session::componentNames()));
         }
         for (int i = 0; i < component.GetNode().size(); ++i) {
@@ -65,7 +65,7 @@ private:
     void examineNode(const JobXml::Node& node, const QString& path)
     {
         if (!JobXml::findParameterSet(node.Getid())) {
-            warn(path, translate("there is no parameter set \"%1\"").arg(node.Getid()),
+            warn(path, Texts::tr("there is no parameter set \"%1\"").arg(node.Getid()),
                  Session::suggestion(node.Getid(), Session::parameterSetNames()));
             return;
         }
@@ -77,10 +77,10 @@ private:
             const QString itemPath = QStringLiteral("%1/ValueItem:%2").arg(path, QString::number(i));
             const REPORTGENERATOR::Field* field = JobXml::ParameterSetText::field(node.Getid(), item.id);
             if (ids.contains(item.id))
-                warn(itemPath, translate("%1 has two values \"%2\"").arg(node.Getid(), item.id));
+                warn(itemPath, Texts::tr("%1 has two values \"%2\"").arg(node.Getid(), item.id));
             ids.insert(item.id);
             if (!field)
-                warn(itemPath, translate("%1 has no field \"%2\"").arg(node.Getid(), item.id),
+                warn(itemPath, Texts::tr("%1 has no field \"%2\"").arg(node.Getid(), item.id),
                      Session::suggestion(item.id, JobXml::ParameterSetText::fieldPaths(node.Getid())));
             else
                 examineItem(item, *field, itemPath);
@@ -101,7 +101,7 @@ void refuse(Session::ResourceFile* file, const REPORTGENERATOR::IRGObject& eleme
 {
     file->findings.append({Session::Finding::FAILURE, file->path, element.GetCheckLine(),
                            element.GetCheckColumn(), reason,
-                           translate("The library skips the file. Mend it, or export it again.")});
+                           Texts::tr("The library skips the file. Mend it, or export it again.")});
 }
 
 void refuseVersion(Session::ResourceFile* file, const QString& version)
@@ -109,8 +109,8 @@ void refuseVersion(Session::ResourceFile* file, const QString& version)
     file->verdict = Session::ResourceFile::OUTDATED;
     file->findings.append(
         {Session::Finding::FAILURE, file->path, file->root.line, file->root.column,
-         translate("version \"%1\" is outdated, 1.1 or later is needed").arg(version),
-         translate("The library skips the file and warns. Export the tuner properties again.")});
+         Texts::tr("version \"%1\" is outdated, 1.1 or later is needed").arg(version),
+         Texts::tr("The library skips the file and warns. Export the tuner properties again.")});
 }
 
 QHash<QString, const Session::ResourceFile*> byKey(const QList<Session::ResourceFile>& files)
@@ -164,14 +164,14 @@ Session::Finding parentFinding(const Session::ResourceFile& file,
     if (description.getParentBaseResource().isEmpty())
         return finding;
     if (!files.contains(parentKey(description))) {
-        finding.text = translate("the parent \"%1\" is not among the resources of type %2")
+        finding.text = Texts::tr("the parent \"%1\" is not among the resources of type %2")
                            .arg(description.getParentBaseResource(), description.getType());
         finding.advice =
-            (translate("The resource counts as one without a parent.") +
+            (Texts::tr("The resource counts as one without a parent.") +
              Session::suggestion(description.getParentBaseResource(), basesOf(description.getType(), files)));
     } else if (isInCircle(description, files)) {
-        finding.text = translate("the parents of %1 lead back to it").arg(Session::resourceKey(description));
-        finding.advice = translate("Take the parent out of one of the files in the circle.");
+        finding.text = Texts::tr("the parents of %1 lead back to it").arg(Session::resourceKey(description));
+        finding.advice = Texts::tr("Take the parent out of one of the files in the circle.");
     }
     return finding;
 }
@@ -187,7 +187,7 @@ ResourceFile examineResourceFile(const QString& path)
     QString reason;
     if (!readFile(path, &bytes, &reason)) {
         file.findings.append(
-            {Finding::FAILURE, path, 0, 0, translate("cannot be read: %1").arg(reason), QString()});
+            {Finding::FAILURE, path, 0, 0, Texts::tr("cannot be read: %1").arg(reason), QString()});
         return file;
     }
     const QString xml = decodedText(bytes);
@@ -211,7 +211,7 @@ ResourceFile examineResourceFile(const QString& path)
         file.findings.append(
             {Finding::WARNING, path, properties.GetCheckLine(), properties.GetCheckColumn(),
              properties.GetCheckReason(),
-             translate("The library takes the file all the same; what it does not understand is left out.")});
+             Texts::tr("The library takes the file all the same; what it does not understand is left out.")});
     FileExaminer(&file, positions).examine(properties);
     return file;
 }
@@ -240,15 +240,15 @@ void compareResourceFiles(QList<ResourceFile>* files)
         if (first != file.path)
             file.findings.append(
                 {Finding::FAILURE, file.path, file.root.line, file.root.column,
-                 translate("%1 is described by %2 already").arg(key, first),
-                 translate("Take one of the two files away, or give it another base resource.")});
+                 Texts::tr("%1 is described by %2 already").arg(key, first),
+                 Texts::tr("Take one of the two files away, or give it another base resource.")});
         const Finding parent = parentFinding(file, known);
         if (!parent.text.isEmpty())
             file.findings.append(parent);
         for (const QString& base : file.description->getConnectableResources()) {
             if (!bases.contains(base))
                 file.findings.append({Finding::WARNING, file.path, file.root.line, file.root.column,
-                                      translate("the connectable resource \"%1\" is not there").arg(base),
+                                      Texts::tr("the connectable resource \"%1\" is not there").arg(base),
                                       suggestion(base, bases).trimmed()});
         }
     }

@@ -24,10 +24,10 @@ const Verb VERBS[] = {
     {QLatin1String("save"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "save FILE")},
 };
 
-QString translate(const char* source)
+class Texts
 {
-    return QCoreApplication::translate("Session::Scenario", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Session::Scenario)
+};
 
 const Verb* findVerb(const QString& name)
 {
@@ -89,8 +89,8 @@ QString quoteWord(const QString& word)
 QString adviceFor(const QString& word)
 {
     if (const Verb* verb = findVerb(word))
-        return translate("Write: %1").arg(translate(verb->usage));
-    return translate("Verbs are %1.%2")
+        return Texts::tr("Write: %1").arg(Texts::tr(verb->usage));
+    return Texts::tr("Verbs are %1.%2")
         .arg(verbNames().join(QLatin1String(", ")), Session::suggestion(word, verbNames()));
 }
 
@@ -99,10 +99,10 @@ QString faultOf(const QStringList& words)
 {
     const Verb* verb = findVerb(words.first());
     if (!verb)
-        return translate("\"%1\" is no verb of a scenario").arg(words.first());
+        return Texts::tr("\"%1\" is no verb of a scenario").arg(words.first());
     const int count = words.size() - 1;
     if (count < verb->minimum || count > verb->maximum)
-        return translate("\"%1\" does not go with %2 arguments").arg(verb->name, QString::number(count));
+        return Texts::tr("\"%1\" does not go with %2 arguments").arg(verb->name, QString::number(count));
     return QString();
 }
 } // namespace
@@ -120,7 +120,7 @@ bool Scenario::parse(const QString& text, const QString& name, Finding* finding)
             continue;
         QStringList words;
         if (!splitWords(lines.at(i), &words)) {
-            *finding = {Finding::FAILURE, name, i + 1, 0, translate("a quote is not closed"), QString()};
+            *finding = {Finding::FAILURE, name, i + 1, 0, Texts::tr("a quote is not closed"), QString()};
             return false;
         }
         if (words.isEmpty())
@@ -157,7 +157,7 @@ QString Scenario::verbsHelp()
 {
     QString result;
     for (const Verb& verb : VERBS)
-        result += QLatin1String("  ") + translate(verb.usage) + QLatin1Char('\n');
+        result += QLatin1String("  ") + Texts::tr(verb.usage) + QLatin1Char('\n');
     return result;
 }
 

@@ -8,10 +8,10 @@
 #include <values/valuebase.h>
 
 namespace {
-QString translate(const char* source)
+class Texts
 {
-    return QCoreApplication::translate("Session::ScenarioRunner", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Session::ScenarioRunner)
+};
 } // namespace
 
 namespace Session {
@@ -52,7 +52,7 @@ ScenarioRunner::Outcome ScenarioRunner::runStep(const Scenario::Step& step)
         if (step.verb == action.verb)
             return (this->*action.run)(step.arguments);
     }
-    return stop(REFUSED, translate("\"%1\" is no verb of a scenario").arg(step.verb));
+    return stop(REFUSED, Texts::tr("\"%1\" is no verb of a scenario").arg(step.verb));
 }
 
 ScenarioRunner::Outcome ScenarioRunner::begin(const QStringList& arguments)
@@ -75,7 +75,7 @@ ScenarioRunner::Outcome ScenarioRunner::select(const QStringList& arguments)
     bool isNumber = false;
     const int number = arguments.value(0).toInt(&isNumber);
     if (!isNumber)
-        return stop(REFUSED, translate("\"%1\" is no number of a sub-job").arg(arguments.value(0)));
+        return stop(REFUSED, Texts::tr("\"%1\" is no number of a sub-job").arg(arguments.value(0)));
     return refused(m_composer.selectSubjob(number));
 }
 
@@ -93,7 +93,7 @@ ScenarioRunner::Outcome ScenarioRunner::expect(const QStringList& arguments)
     }
     if (found == wanted)
         return DONE;
-    return stop(MISSED, translate("%1 is \"%2\", not \"%3\" as expected").arg(what, found, wanted));
+    return stop(MISSED, Texts::tr("%1 is \"%2\", not \"%3\" as expected").arg(what, found, wanted));
 }
 
 ScenarioRunner::Outcome ScenarioRunner::save(const QStringList& arguments)

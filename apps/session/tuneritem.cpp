@@ -12,10 +12,10 @@
 using Session::TunerItem;
 
 namespace {
-QString translate(const char* source)
+class Texts
 {
-    return QCoreApplication::translate("Session::TunerItem", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Session::TunerItem)
+};
 
 template <typename Item>
 TunerItem plain(const Item& item)
@@ -84,12 +84,12 @@ QStringList rangeFaults(const TunerItem& item, const REPORTGENERATOR::Field& fie
     const QString range = shownRange(item.minimum, item.maximum, field);
     QStringList result;
     if (item.minimum > item.maximum)
-        result.append(translate("the range %1 is empty").arg(range));
+        result.append(Texts::tr("the range %1 is empty").arg(range));
     else if (item.value < item.minimum || item.value > item.maximum)
         result.append(
-            translate("the default %1 is outside the range %2").arg(shown(item.value, field), range));
+            Texts::tr("the default %1 is outside the range %2").arg(shown(item.value, field), range));
     if (item.step < 0)
-        result.append(translate("the step %1 is negative").arg(shown(item.step, field)));
+        result.append(Texts::tr("the step %1 is negative").arg(shown(item.step, field)));
     return result;
 }
 
@@ -103,21 +103,21 @@ QStringList fieldRangeFaults(const TunerItem& item, const REPORTGENERATOR::Field
         return {};
     const QString range = shownRange(minimum, maximum, field);
     if (item.hasRange)
-        return {translate("the range %1 reaches beyond %2, which a job file can hold")
+        return {Texts::tr("the range %1 reaches beyond %2, which a job file can hold")
                     .arg(shownRange(low, high, field), range)};
     return {
-        translate("the default %1 is outside %2, which a job file can hold").arg(shown(low, field), range)};
+        Texts::tr("the default %1 is outside %2, which a job file can hold").arg(shown(low, field), range)};
 }
 
 QStringList selectionFaults(const TunerItem& item, const REPORTGENERATOR::Field& field)
 {
     QStringList result;
     if (item.value < 0 || item.value >= item.items.size())
-        result.append(translate("the default is item %1 of %2")
+        result.append(Texts::tr("the default is item %1 of %2")
                           .arg(ValueText::fromDouble(item.value), QString::number(item.items.size())));
     for (const QString& name : item.items) {
         if (field.enumeration && field.enumeration->number(name) < 0)
-            result.append(translate("the item \"%1\" is none of %2")
+            result.append(Texts::tr("the item \"%1\" is none of %2")
                               .arg(name, field.enumeration->allNames().join(QLatin1String(", "))));
     }
     return result;

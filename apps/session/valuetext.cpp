@@ -27,10 +27,10 @@ const Truth TRUTHS[] = {
     {QLatin1String("1"), true},    {QLatin1String("0"), false},
 };
 
-QString translate(const char* source)
+class Texts
 {
-    return QCoreApplication::translate("Session::ValueText", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Session::ValueText)
+};
 
 QString unitOf(const Field* field)
 {
@@ -84,15 +84,15 @@ bool assignNumber(ValueBase* value, const Field* field, const QString& text, QSt
     if (wantsWhole ? !Session::parseWholeQuantity(text, unit, &whole)
                    : !Session::parseQuantity(text, unit, &number)) {
         const QString kind =
-            wantsWhole ? translate("\"%1\" is no whole number") : translate("\"%1\" is no number");
+            wantsWhole ? Texts::tr("\"%1\" is no whole number") : Texts::tr("\"%1\" is no number");
         const QString units = Session::unitsFor(unit).join(QLatin1String(", "));
         return refuse(reason,
-                      kind.arg(text) + (units.isEmpty() ? QString() : translate(" in %1").arg(units)));
+                      kind.arg(text) + (units.isEmpty() ? QString() : Texts::tr(" in %1").arg(units)));
     }
     const Range range = rangeOf(*value, field);
     const double size = wantsWhole ? double(whole) : number;
     if (size < range.minimum || size > range.maximum)
-        return refuse(reason, translate("%1 is outside %2")
+        return refuse(reason, Texts::tr("%1 is outside %2")
                                   .arg(Session::readableQuantity(ValueText::fromDouble(size), unit),
                                        rangeText(range, unit)));
     return value->SetText(wantsWhole ? QString::number(whole) : ValueText::fromDouble(number));
@@ -104,7 +104,7 @@ bool assignTruth(ValueBase* value, const QString& text, QString* reason)
         if (text.compare(truth.text, Qt::CaseInsensitive) == 0)
             return value->SetText(ValueText::fromBool(truth.value));
     }
-    return refuse(reason, translate("\"%1\" is neither true nor false").arg(text));
+    return refuse(reason, Texts::tr("\"%1\" is neither true nor false").arg(text));
 }
 
 // The name that is written into files, for a name or for the text that the user is shown for it.
@@ -134,7 +134,7 @@ bool assignSelection(ValueSelection* selection, const Field* field, const QStrin
             return selection->SelectIndex(i);
     }
     const QStringList names = itemNames(*selection);
-    return refuse(reason, translate("\"%1\" is none of %2").arg(text, names.join(QLatin1String(", "))) +
+    return refuse(reason, Texts::tr("\"%1\" is none of %2").arg(text, names.join(QLatin1String(", "))) +
                               (Session::nearest(text, names).isNull()
                                    ? QString()
                                    : QLatin1Char('.') + Session::suggestion(text, names)));
@@ -173,7 +173,7 @@ bool assignText(ValueBase* value, const Field* field, const QString& text, QStri
         return assignNumber(value, field, text, reason);
     const QString name = enumerationName(field, text);
     if (field && field->enumeration && field->enumeration->number(name) < 0)
-        return refuse(reason, translate("\"%1\" is none of %2")
+        return refuse(reason, Texts::tr("\"%1\" is none of %2")
                                   .arg(text, field->enumeration->allNames().join(QLatin1String(", "))));
     return value->SetText(name);
 }
