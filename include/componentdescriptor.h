@@ -30,7 +30,7 @@ class JEDVEPB_EXPORT ComponentDescriptor
 public:
     /// Copies type, name, optional flag and nodes of \p component and asks ParameterSetMapper, with the
     /// component's name (not its type), for the parameter sets.
-    explicit ComponentDescriptor(const JobXml::Component& component);
+    ComponentDescriptor(const JobXml::Component& component);
     ComponentDescriptor(const ComponentDescriptor& other);
     ComponentDescriptor& operator=(const ComponentDescriptor& other);
     ~ComponentDescriptor();

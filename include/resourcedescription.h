@@ -23,8 +23,8 @@ class JEDVEPB_EXPORT ResourceDescription
 public:
     /// Reads the description from \p xml, the whole text of a tuner property file. isValid tells whether that
     /// succeeded: the text is well-formed, and its version is empty or a number of at least 1.1. Text that
-    /// fails leaves everything else null or empty, save for getVersion of a text that failed by its version.
-    explicit ResourceDescription(const QString& xml);
+    /// fails leaves everything else null or empty, save for getVersion of a text whose version was read.
+    ResourceDescription(const QString& xml);
     ResourceDescription(const ResourceDescription& other);
     ResourceDescription& operator=(const ResourceDescription& other);
     virtual ~ResourceDescription();

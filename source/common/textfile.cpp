@@ -26,6 +26,8 @@ std::optional<QString> readTextFile(const QString& path)
         if (bytes.size() > MAX_BYTES)
             return std::nullopt;
     }
+    if (file.error() != QFileDevice::NoError)
+        return std::nullopt; // cut off by a fault, so not what the file holds
     // With the size, since a NUL would end the text otherwise.
     return QString::fromUtf8(bytes.constData(), bytes.size());
 }

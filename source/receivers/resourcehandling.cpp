@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 #include <iterator>
 #include <limits>
 #include <optional>
@@ -327,13 +328,27 @@ ValueBase* ComponentDescriptor::createValueStringList(const JobXml::ValueStringL
 
 ResourceDescription::ResourceDescription(const QString& xml)
 {
+    QString reason;
     try {
         valid = createFromStream(xml);
+        return;
     } catch (const ZuException& failure) {
-        traceUnreadable(failure.GetErrorReason(), __LINE__);
+        reason = failure.GetErrorReason();
     } catch (const REPORTGENERATOR::RGException& failure) {
-        traceUnreadable(failure.GetMessage(), __LINE__);
+        reason = failure.GetMessage();
+    } catch (const std::exception& failure) {
+        reason = QString::fromUtf8(failure.what());
     }
+    traceUnreadable(reason, __LINE__);
+    // A fault in the middle must not leave half a description behind.
+    for (QString* text : {&name, &type, &baseResource, &parentBaseResource})
+        *text = QString();
+    components.clear();
+    componentsByType.clear();
+    componentsByName.clear();
+    startupModes.clear();
+    connectableResources.clear();
+    quantity = 0;
 }
 
 ResourceDescription::ResourceDescription(const ResourceDescription& other) = default;
