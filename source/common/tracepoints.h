@@ -16,6 +16,7 @@ namespace TracePoints {
 constexpr const char* JOB_XML_HANDLER = "jobxmlhandler";
 constexpr const char* RESOURCE_HANDLING = "resourcehandling";
 constexpr const char* SUB_SETTING_FACTORY = "jedsubsettingfactory";
+constexpr const char* SELECTABLE_RESOURCE_MODEL = "selectableresourcemodel";
 constexpr const char* COMMON_HELPER = "jedcommonhelper";
 
 constexpr TracePoint UNKNOWN_VALUE_ITEM{RESOURCE_HANDLING, 325};
