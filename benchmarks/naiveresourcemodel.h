@@ -148,6 +148,15 @@ public:
         refresh(section);
         return true;
     }
+    bool selectResource(const DescriptionPtr& description, int n)
+    {
+        for (int row = 0; row < m_rows.size(); ++row) {
+            const ResourcePtr& resource = m_rows.at(row);
+            if (resource->description == description)
+                return setData(index(row, 1), std::min(resource->count + n, maximum(resource)), Qt::EditRole);
+        }
+        return false;
+    }
     bool setReservationCount(int row, int n)
     {
         const ResourcePtr& resource = m_rows.at(row);

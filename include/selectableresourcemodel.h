@@ -101,7 +101,6 @@ public slots:
     void slotDeselectAll();
 
 private:
-    bool isRow(const QModelIndex& index) const;
     bool writeCount(int row, qint64 count);
     void switchResource(int row, bool enabled);
     void selectAllImplementation(int n);

@@ -11,6 +11,8 @@ namespace {
 
 const int SELECT_MAXIMUM = -1; // instead of a number: as many as can be had
 
+const int TREE_COLUMNS = 8;
+
 const char* const HEADERS[COLUMNS] = {
     QT_TRANSLATE_NOOP("JEDVEPLUGIN::SelectableResourceModel", "Base Resource"),
     QT_TRANSLATE_NOOP("JEDVEPLUGIN::SelectableResourceModel", "Count"),
@@ -22,8 +24,10 @@ using Private = SelectableResourceModelPrivate;
 /// The items of one resource in the columns of the tree.
 QList<QStandardItem*> createHierarchialModelRow(const Private& resources, int row, qint64 occupied)
 {
+    static const QString s_true = QStringLiteral("true");
+    static const QString s_false = QStringLiteral("false");
     const Private::SelectableResource& resource = resources.at(row);
-    const QString texts[] = {
+    const QString texts[TREE_COLUMNS] = {
         resource.description->getBaseResource(),
         QString::number(resource.count),
         QString::number(resources.getCachedMaxCount(row)),
@@ -31,14 +35,20 @@ QList<QStandardItem*> createHierarchialModelRow(const Private& resources, int ro
         QString::number(occupied),
         resource.description->getType(),
         QString::number(resource.description->getQuantity()),
-        QString::fromLatin1(resource.enabled ? "true" : "false"),
+        resource.enabled ? s_true : s_false,
     };
     QList<QStandardItem*> items;
+    items.reserve(TREE_COLUMNS);
     for (const QString& text : texts) {
         items.append(new QStandardItem(text));
         items.last()->setEditable(false);
     }
     return items;
+}
+
+bool isRow(const Private& resources, const QModelIndex& index)
+{
+    return index.isValid() && index.row() < resources.rowCount();
 }
 
 template <typename Predicate>
@@ -194,7 +204,7 @@ int SelectableResourceModel::columnCount(const QModelIndex& parent) const
 
 QVariant SelectableResourceModel::data(const QModelIndex& index, int role) const
 {
-    if (!isRow(index) || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!isRow(*d, index) || (role != Qt::DisplayRole && role != Qt::EditRole))
         return QVariant();
     switch (index.column()) {
     case COLUMN_BASE_RESOURCE:
@@ -210,7 +220,7 @@ QVariant SelectableResourceModel::data(const QModelIndex& index, int role) const
 
 bool SelectableResourceModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (!isRow(index) || index.column() != COLUMN_COUNT || role != Qt::EditRole)
+    if (!isRow(*d, index) || index.column() != COLUMN_COUNT || role != Qt::EditRole)
         return false;
     const int count = value.toInt();
     if (count == d->at(index.row()).count || !d->setCount(index.row(), count))
@@ -243,7 +253,7 @@ bool SelectableResourceModel::setHeaderData(int section, Qt::Orientation orienta
 
 Qt::ItemFlags SelectableResourceModel::flags(const QModelIndex& index) const
 {
-    if (!isRow(index))
+    if (!isRow(*d, index))
         return Qt::NoItemFlags;
     Qt::ItemFlags flags = Qt::ItemIsSelectable;
     if (d->getCachedMaxCount(index.row()) > 0) {
@@ -268,11 +278,6 @@ void SelectableResourceModel::slotDeselectAll()
     selectAllImplementation(0);
 }
 
-bool SelectableResourceModel::isRow(const QModelIndex& index) const
-{
-    return index.isValid() && index.row() < d->rowCount();
-}
-
 bool SelectableResourceModel::writeCount(int row, qint64 count)
 {
     return setData(index(row, COLUMN_COUNT), saturated(count), Qt::EditRole);
@@ -289,8 +294,12 @@ void SelectableResourceModel::switchResource(int row, bool enabled)
 void SelectableResourceModel::selectAllImplementation(int n)
 {
     // In row order: a parent takes its share of the common quantity before its children.
-    for (int row = 0; row < d->rowCount(); ++row)
-        d->setCount(row, n == SELECT_MAXIMUM ? d->getMaxCount(row) : n);
+    for (int row = 0; row < d->rowCount(); ++row) {
+        if (n == SELECT_MAXIMUM)
+            d->selectMaximum(row);
+        else
+            d->setCount(row, n);
+    }
     refreshViews(-1);
 }
 
@@ -299,7 +308,7 @@ void SelectableResourceModel::refreshViews(int row)
     const int last = d->rowCount() - 1;
     if (last < 0)
         return;
-    emit dataChanged(index(0, 0), index(last, COLUMNS - 1));
+    emit dataChanged(createIndex(0, 0), createIndex(last, COLUMNS - 1));
     emit headerDataChanged(Qt::Vertical, 0, row == -1 ? last : row);
 }
 

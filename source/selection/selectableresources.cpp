@@ -85,7 +85,6 @@ void SelectableResourceModelPrivate::setResources(const QList<DescriptionPtr>& d
             root = parent;
         addResource(root, &resources);
     }
-    m_sums.assign(m_rows.size(), 0);
 }
 
 int SelectableResourceModelPrivate::findResourceIndex(const DescriptionPtr& description) const
@@ -104,9 +103,9 @@ int SelectableResourceModelPrivate::getMaxCount(int row) const
 {
     if (!at(row).enabled)
         return 0;
-    qint64 minimum = remaining(row);
+    qint64 minimum = m_balances[row].remaining;
     for (int ancestor = parentRow(row); ancestor >= 0; ancestor = parentRow(ancestor))
-        minimum = std::min(minimum, remaining(ancestor));
+        minimum = std::min(minimum, m_balances[ancestor].remaining);
     return saturated(minimum + at(row).count);
 }
 
@@ -115,8 +114,7 @@ int SelectableResourceModelPrivate::getCachedMaxCount(int row) const
     if (!m_chainMinimaValid) {
         m_chainMinima.resize(m_rows.size());
         for (int each = 0; each < rowCount(); ++each) {
-            const int parent = parentRow(each);
-            const qint64 own = remaining(each);
+            const auto [own, parent] = m_balances[each];
             m_chainMinima[each] = parent < 0 ? own : std::min(own, m_chainMinima[parent]);
         }
         m_chainMinimaValid = true;
@@ -149,12 +147,19 @@ bool SelectableResourceModelPrivate::setCount(int row, int count)
     return true;
 }
 
+void SelectableResourceModelPrivate::selectMaximum(int row)
+{
+    const int maximum = getMaxCount(row);
+    if (maximum >= 0)
+        storeCount(row, maximum);
+}
+
 bool SelectableResourceModelPrivate::setReservationCount(int row, int count)
 {
     SelectableResource& resource = *m_rows[row];
     if (count < 0 || count > resource.description->getQuantity())
         return false;
-    addToSums(row, qint64(count) - resource.reservationCount);
+    take(row, qint64(count) - resource.reservationCount);
     resource.reservationCount = count;
     // The maximum may be below 0, and so is the count then: both show by how much too many are promised.
     const int maximum = getMaxCount(row);
@@ -176,8 +181,7 @@ void SelectableResourceModelPrivate::clear()
     for (const ResourcePtr& resource : m_rows)
         resource->children.clear();
     m_rows.clear();
-    m_parentRows.clear();
-    m_sums.clear();
+    m_balances.clear();
     m_rowsByDescription.clear();
     m_chainMinimaValid = false;
 }
@@ -196,7 +200,7 @@ void SelectableResourceModelPrivate::addResource(const ResourcePtr& root, Resour
         const ResourceDescription& description = *next.resource->description;
         const int row = rowCount();
         m_rows.push_back(next.resource);
-        m_parentRows.push_back(next.parentRow);
+        m_balances.push_back({description.getQuantity(), next.parentRow});
         m_rowsByDescription.insert(&description, row);
         resources->remove(resourceKey(description.getType(), description.getBaseResource()));
         const QList<ResourcePtr>& children = next.resource->children;
@@ -207,20 +211,17 @@ void SelectableResourceModelPrivate::addResource(const ResourcePtr& root, Resour
 
 void SelectableResourceModelPrivate::storeCount(int row, int count)
 {
-    addToSums(row, qint64(count) - at(row).count);
+    if (count == at(row).count)
+        return;
+    take(row, qint64(count) - at(row).count);
     m_rows[row]->count = count;
 }
 
-void SelectableResourceModelPrivate::addToSums(int row, qint64 difference)
+void SelectableResourceModelPrivate::take(int row, qint64 instances)
 {
     for (int each = row; each >= 0; each = parentRow(each))
-        m_sums[each] += difference;
+        m_balances[each].remaining -= instances;
     m_chainMinimaValid = false;
-}
-
-qint64 SelectableResourceModelPrivate::remaining(int row) const
-{
-    return at(row).description->getQuantity() - m_sums[row];
 }
 
 } // namespace JEDVEPLUGIN

@@ -107,8 +107,7 @@ Pair::Outcome Pair::changeCount(QRandomGenerator* random, int row)
     const int now = m_naive.at(row)->count;
     switch (random->bounded(5)) {
     case 0:
-        return {m_model.selectResource(description, n),
-                m_naive.setData(count, qMin(now + n, NaiveResourceModel::maximum(m_naive.at(row))))};
+        return {m_model.selectResource(description, n), m_naive.selectResource(description, n)};
     case 1:
         return {m_model.unselectResource(description, n),
                 m_naive.setData(count, n == -1 ? 0 : qMax(now - n, 0))};
