@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <componentdescriptor.h>
+#include <kit/jobplaces.h>
+#include <kit/subjobtree.h>
 #include <reportlayer/elementtable.h>
-#include <session/jobplaces.h>
-#include <session/subjobtree.h>
 #include <session/texttable.h>
 #include <session/valuetext.h>
 #include <values/node.h>
@@ -48,12 +48,12 @@ QVector<QPair<QString, QString>> properties(const ResourceDescription& resource)
 QString setText(const Node& set)
 {
     QString result = QStringLiteral("    %1").arg(set.GetId());
-    if (!Session::isCarriedByJobFile(set.GetId()))
+    if (!PluginKit::isCarriedByJobFile(set.GetId()))
         result += Texts::tr("  (a job file cannot hold it)");
     Session::TextTable table(6);
     for (const ValueBase* value : set.GetValues()) {
         const REPORTGENERATOR::Field* field =
-            Session::SubjobTree::field(set.GetId() + QLatin1Char('/') + value->GetId());
+            PluginKit::SubjobTree::field(set.GetId() + QLatin1Char('/') + value->GetId());
         table.append(
             {value->GetId(), Session::readableValue(*value, field), Session::readableRange(*value, field)});
     }
@@ -92,14 +92,14 @@ QJsonObject setToJson(const Node& set)
     QJsonArray values;
     for (const ValueBase* value : set.GetValues()) {
         const REPORTGENERATOR::Field* field =
-            Session::SubjobTree::field(set.GetId() + QLatin1Char('/') + value->GetId());
+            PluginKit::SubjobTree::field(set.GetId() + QLatin1Char('/') + value->GetId());
         values.append(QJsonObject{{QStringLiteral("field"), value->GetId()},
                                   {QStringLiteral("default"), value->GetText()},
                                   {QStringLiteral("range"), Session::readableRange(*value, field)},
                                   {QStringLiteral("unit"), field ? field->unit() : QString()}});
     }
     return {{QStringLiteral("name"), set.GetId()},
-            {QStringLiteral("carriedByJobFile"), Session::isCarriedByJobFile(set.GetId())},
+            {QStringLiteral("carriedByJobFile"), PluginKit::isCarriedByJobFile(set.GetId())},
             {QStringLiteral("values"), values}};
 }
 

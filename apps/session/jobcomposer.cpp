@@ -1,22 +1,21 @@
 #include "jobcomposer.h"
 
 #include "jobdocument.h"
-#include "jobplaces.h"
-#include "parametersets.h"
 #include "resourcereport.h"
-#include "subjobtree.h"
 #include "suggestion.h"
 #include "valuetext.h"
 
 #include <jedcommonhelper.h>
-#include <jobxml/parametersettext.h>
+#include <jobxml/job.h>
+#include <kit/jobplaces.h>
+#include <kit/subjobtree.h>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <values/node.h>
 
 using JEDVEPLUGIN::JEDCommonHelper;
 using JEDVEPLUGIN::ResourceDescription;
-using JobXml::ParameterSetText;
+using PluginKit::SubjobTree;
 
 namespace {
 const char* const JOB_TYPE_NAMES[] = {"Production", "Search", "Surveillance", "DFScan", "Measurement"};
@@ -47,23 +46,11 @@ QString timeOfMaking()
 // One parameter set on its way from the value tree into the job; what is lost on the way is a finding.
 void composeSet(const Node& set, const QString& place, JobXml::Subjob* subjob, Session::Findings* findings)
 {
-    const QString name = set.GetId();
-    const auto warn = [&](const QString& text, const QString& advice) {
-        findings->append({Session::Finding::WARNING, place, 0, 0, text, advice});
-    };
-    ParameterSetText::Report report;
-    const QString xml = ParameterSetText::toText(set, QString(), &report);
-    for (const QString& id : report.valuesWithoutField)
-        warn(Texts::tr("%1/%2 is lost: the parameter set has no such field").arg(name, id), QString());
-    for (const QString& id : report.textsNotConverted)
-        warn(Texts::tr("%1/%2 is lost: its field does not take \"%3\"")
-                 .arg(name, id, set.GetChild(id)->GetText()),
-             QString());
-    for (const QString& part : Session::lostParts(name, xml))
-        warn(Texts::tr("%1 is lost: a job file cannot hold it").arg(part),
-             Texts::tr("The receiver keeps the values that it has."));
-    if (Session::isCarriedByJobFile(name))
-        Session::putParameterSet(name, xml, subjob);
+    for (const JEDVEPLUGIN::Problem& problem : PluginKit::putValues(set, QString(), subjob)) {
+        const bool isJobFile = problem.severity < JEDVEPLUGIN::Problem::SEVERITY_ERROR;
+        findings->append({Session::Finding::WARNING, place, 0, 0, problem.text,
+                          isJobFile ? Texts::tr("The receiver keeps the values that it has.") : QString()});
+    }
 }
 } // namespace
 

@@ -1,9 +1,9 @@
 #include "joboutline.h"
 
-#include "parametersets.h"
 #include "quantity.h"
 
 #include <algorithm>
+#include <kit/jobplaces.h>
 #include <QJsonArray>
 #include <reportlayer/fieldaccess.h>
 
@@ -35,7 +35,7 @@ QString line(int indent, const QString& label, const QString& value)
 QString title(const Field& field)
 {
     const REPORTGENERATOR::ParameterSet* set =
-        field.element ? Session::findParameterSet(*field.element) : nullptr;
+        field.element ? PluginKit::findParameterSet(*field.element) : nullptr;
     return set ? QStringLiteral("%1 (%2)").arg(set->label(), QLatin1String(set->name)) : field.label();
 }
 

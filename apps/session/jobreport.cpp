@@ -1,13 +1,13 @@
 #include "jobreport.h"
 
 #include "jobdocument.h"
-#include "jobplaces.h"
 #include "resourcereport.h"
-#include "subjobtree.h"
 #include "suggestion.h"
 
 #include <jedcommonhelper.h>
 #include <jobxml/parametersettext.h>
+#include <kit/jobplaces.h>
+#include <kit/subjobtree.h>
 #include <QCoreApplication>
 #include <QSet>
 #include <values/node.h>
@@ -73,22 +73,22 @@ private:
 
     void checkSets(const JEDVEPLUGIN::ResourceDescription& resource)
     {
-        Session::SubjobTree tree;
+        PluginKit::SubjobTree tree;
         tree.build(resource);
         QSet<QString> names;
-        for (const Session::CarriedSet& carried : Session::carriedSets(m_subjob)) {
+        for (const PluginKit::CarriedSet& carried : PluginKit::carriedSets(m_subjob)) {
             checkRoundTrip(&tree, carried);
             names.insert(QLatin1String(carried.set->name));
         }
         for (const Node* set : tree.setsInUse(names)) {
-            for (const QString& part : Session::lostParts(set->GetId(), ParameterSetText::toText(*set)))
+            for (const QString& part : PluginKit::lostParts(set->GetId(), ParameterSetText::toText(*set)))
                 warn(Texts::tr("the receiver has %1, which a job file cannot hold").arg(part),
                      Texts::tr("The receiver keeps the values that it has."));
         }
     }
 
     // Text to values and back: what the text sets must come out again as it was.
-    void checkRoundTrip(Session::SubjobTree* tree, const Session::CarriedSet& carried)
+    void checkRoundTrip(PluginKit::SubjobTree* tree, const PluginKit::CarriedSet& carried)
     {
         const QString name = QLatin1String(carried.set->name);
         Node* const node = tree->set(name);
@@ -106,7 +106,7 @@ private:
     }
 
     // Whether all that the sub-job's text sets is set to the same in the other text.
-    static bool holds(const QString& text, const Session::CarriedSet& carried)
+    static bool holds(const QString& text, const PluginKit::CarriedSet& carried)
     {
         const std::unique_ptr<REPORTGENERATOR::IRGObject> before(carried.set->table->create());
         const std::unique_ptr<REPORTGENERATOR::IRGObject> after(carried.set->table->create());

@@ -4,19 +4,9 @@
 #include <jobxml/tunerproperties.h>
 #include <parametersetmapper.h>
 
-using REPORTGENERATOR::ElementTable;
 using REPORTGENERATOR::ParameterSet;
 
 namespace Session {
-
-const ParameterSet* findParameterSet(const ElementTable& table)
-{
-    for (const ParameterSet& set : JobXml::parameterSets()) {
-        if (set.table == &table)
-            return JobXml::findParameterSet(QLatin1String(set.name));
-    }
-    return nullptr;
-}
 
 QStringList parameterSetNames()
 {

@@ -1,12 +1,13 @@
 #include "station.h"
 
 #include <jobxml/job.h>
+#include <kit/jobplaces.h>
 #include <session/jobcomposer.h>
 #include <session/jobdocument.h>
-#include <session/jobplaces.h>
 #include <support/testmain.h>
 #include <values/valuebase.h>
 
+using namespace PluginKit;
 using namespace Session;
 
 class TstJobComposer : public QObject

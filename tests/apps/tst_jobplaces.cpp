@@ -1,9 +1,10 @@
 #include <jobxml/job.h>
+#include <kit/jobplaces.h>
 #include <reportlayer/fieldaccess.h>
 #include <session/joboutline.h>
-#include <session/jobplaces.h>
 #include <session/parametersets.h>
 
+using namespace PluginKit;
 using namespace Session;
 
 class TstJobPlaces : public QObject

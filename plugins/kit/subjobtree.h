@@ -16,15 +16,20 @@ namespace REPORTGENERATOR {
 struct Field;
 }
 
-namespace Session {
+namespace PluginKit {
 
 /// The values of one sub-job: a node for each parameter set that the receiver's components supply, with defaults and
 /// ranges out of its tuner property file. A value's path is "SET/FIELD". GUI thread only.
 class SubjobTree
 {
 public:
-    SubjobTree();
+    /// \param parent  node of the value tree in which the values get a place, under the first free one of the ids
+    ///                "SubJob1", "SubJob2" and so on; null: none. Must outlive the tree.
+    explicit SubjobTree(Node* parent = nullptr);
     ~SubjobTree();
+
+    /// The node above the parameter sets. Owned by the tree.
+    Node* root() const { return m_root.get(); }
 
     /// Builds the values of a receiver anew.
     void build(const JEDVEPLUGIN::ResourceDescription& resource);
@@ -45,9 +50,9 @@ public:
     static const REPORTGENERATOR::Field* field(const QString& path);
 
 private:
-    std::unique_ptr<Node> m_root;
+    std::unique_ptr<Node> m_root;         // In its parent, which it leaves when it is deleted.
     QVector<QStringList> m_mandatorySets; // Of each component that is not optional.
     QVector<QStringList> m_optionalSets;  // Of each optional component.
 };
 
-} // namespace Session
+} // namespace PluginKit

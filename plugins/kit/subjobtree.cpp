@@ -17,12 +17,22 @@ QString fieldOf(const QString& path)
 {
     return path.section(QLatin1Char('/'), 1);
 }
+
+Node* newRoot(Node* parent)
+{
+    int number = 1;
+    const auto id = [&number] { return QStringLiteral("SubJob%1").arg(number); };
+    while (parent && parent->GetChildNode(id()))
+        ++number;
+    Node* const inParent = parent ? parent->AddChildNode(id()) : nullptr;
+    return inParent ? inParent : new Node;
+}
 } // namespace
 
-namespace Session {
+namespace PluginKit {
 
-SubjobTree::SubjobTree()
-    : m_root(std::make_unique<Node>())
+SubjobTree::SubjobTree(Node* parent)
+    : m_root(newRoot(parent))
 {
 }
 
@@ -30,7 +40,7 @@ SubjobTree::~SubjobTree() = default;
 
 void SubjobTree::build(const JEDVEPLUGIN::ResourceDescription& resource)
 {
-    m_root = std::make_unique<Node>();
+    m_root->Clear();
     m_mandatorySets.clear();
     m_optionalSets.clear();
     for (const auto& component : resource.getComponents()) {
@@ -92,4 +102,4 @@ const REPORTGENERATOR::Field* SubjobTree::field(const QString& path)
     return JobXml::ParameterSetText::field(setOf(path), fieldOf(path));
 }
 
-} // namespace Session
+} // namespace PluginKit

@@ -1,18 +1,22 @@
 #pragma once
 
+#include <problem.h>
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+class Node;
 
 namespace JobXml {
 class Subjob;
 }
 namespace REPORTGENERATOR {
+struct ElementTable;
 struct ParameterSet;
-}
+} // namespace REPORTGENERATOR
 
 /// Which parameter sets a job file holds, and where.
-namespace Session {
+namespace PluginKit {
 
 /// A parameter set that a sub-job carries.
 struct CarriedSet
@@ -21,11 +25,20 @@ struct CarriedSet
     QString xml;                              ///< its element, in the layout that elements are written in
 };
 
+/// The parameter set whose content elements of this class are; constant, null if there is none.
+const REPORTGENERATOR::ParameterSet* findParameterSet(const REPORTGENERATOR::ElementTable& table);
+
 /// The parameter sets that are set in a sub-job, in the order of the file.
 QList<CarriedSet> carriedSets(const JobXml::Subjob& subjob);
 
 /// Puts the text of a parameter set where the library's job file handler wants it.
 void putParameterSet(const QString& name, const QString& xml, JobXml::Subjob* subjob);
+
+/// Puts the values of a parameter set there.
+/// \param set   a node of the value tree that is named by the parameter set
+/// \param base  text of the same set that gives what the node has no value for; may be empty
+/// \return an error for each value that is lost on the way; a warning for what a job file cannot hold
+QList<JEDVEPLUGIN::Problem> putValues(const Node& set, const QString& base, JobXml::Subjob* subjob);
 
 /// What of a parameter set's text a job file cannot hold: "SET" if all of it, else "SET/PART" for each field or group that
 /// the job file handler takes out.
@@ -34,4 +47,4 @@ QStringList lostParts(const QString& name, const QString& xml);
 /// Whether a parameter set of that name finds a place in a job file.
 bool isCarriedByJobFile(const QString& name);
 
-} // namespace Session
+} // namespace PluginKit

@@ -1,15 +1,24 @@
 #include "jobplaces.h"
 
-#include "parametersets.h"
-
 #include <jobxml/job.h>
+#include <jobxml/parametersettext.h>
+#include <jobxml/settings.h>
 #include <jobxmlhandler.h>
+#include <QCoreApplication>
 #include <QXmlStreamReader>
 #include <reportlayer/fieldaccess.h>
+#include <values/node.h>
 
 using JEDVEPLUGIN::JobXmlHandler;
+using JEDVEPLUGIN::Problem;
+using JobXml::ParameterSetText;
 
 namespace {
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PluginKit::JobPlaces)
+};
+
 // The sets that belong to the sub-job itself, not to its block of settings.
 const QLatin1String SETS_OF_SUBJOB[] = {
     QLatin1String("ActivityGeneration"),
@@ -27,14 +36,14 @@ bool belongsToSubjob(const QString& name)
 }
 
 // The parameter sets that are set among the children of an element.
-void collectSets(const REPORTGENERATOR::IRGObject& parent, QList<Session::CarriedSet>* sets)
+void collectSets(const REPORTGENERATOR::IRGObject& parent, QList<PluginKit::CarriedSet>* sets)
 {
     const REPORTGENERATOR::ElementTable& table = parent.table();
     for (int i = 0; i < table.fieldCount; ++i) {
         const REPORTGENERATOR::Field& field = table.fields[i];
         const QString name = QLatin1String(field.name);
         const REPORTGENERATOR::ParameterSet* set =
-            field.element ? Session::findParameterSet(*field.element) : nullptr;
+            field.element ? PluginKit::findParameterSet(*field.element) : nullptr;
         if (set && REPORTGENERATOR::isFieldSet(parent, name))
             sets->append({set, REPORTGENERATOR::childElement(parent, name)->GetXmlString(false)});
     }
@@ -53,7 +62,16 @@ QStringList childNames(const QString& xml)
 }
 } // namespace
 
-namespace Session {
+namespace PluginKit {
+
+const REPORTGENERATOR::ParameterSet* findParameterSet(const REPORTGENERATOR::ElementTable& table)
+{
+    for (const REPORTGENERATOR::ParameterSet& set : JobXml::parameterSets()) {
+        if (set.table == &table)
+            return JobXml::findParameterSet(QLatin1String(set.name));
+    }
+    return nullptr;
+}
 
 QList<CarriedSet> carriedSets(const JobXml::Subjob& subjob)
 {
@@ -70,6 +88,27 @@ void putParameterSet(const QString& name, const QString& xml, JobXml::Subjob* su
         handler->addSubjobSetting(name, xml, *subjob);
     else
         handler->addParameterSetObject(name, xml, subjob->GetSettings());
+}
+
+QList<Problem> putValues(const Node& set, const QString& base, JobXml::Subjob* subjob)
+{
+    const QString name = set.GetId();
+    QList<Problem> problems;
+    ParameterSetText::Report report;
+    const QString xml = ParameterSetText::toText(set, base, &report);
+    for (const QString& id : report.valuesWithoutField)
+        problems.append({Problem::SEVERITY_ERROR, name, id,
+                         Texts::tr("%1/%2 is lost: the parameter set has no such field").arg(name, id)});
+    for (const QString& id : report.textsNotConverted)
+        problems.append({Problem::SEVERITY_ERROR, name, id,
+                         Texts::tr("%1/%2 is lost: its field does not take \"%3\"")
+                             .arg(name, id, set.GetChild(id)->GetText())});
+    for (const QString& part : lostParts(name, xml))
+        problems.append({Problem::SEVERITY_WARNING, name, part.section(QLatin1Char('/'), 1),
+                         Texts::tr("%1 is lost: a job file cannot hold it").arg(part)});
+    if (isCarriedByJobFile(name))
+        putParameterSet(name, xml, subjob);
+    return problems;
 }
 
 QStringList lostParts(const QString& name, const QString& xml)
@@ -101,4 +140,4 @@ bool isCarriedByJobFile(const QString& name)
     return !carriedSets(subjob).isEmpty();
 }
 
-} // namespace Session
+} // namespace PluginKit
