@@ -28,6 +28,7 @@ public:
         m_rangeMaximum = maximum;
         invalidateFilter();
     }
+    bool isRangeFilterEnabled() const { return m_rangeFilterEnabled; }
 
 public slots:
     /// Switches the range filter and filters anew.
