@@ -1,0 +1,7 @@
+#include "ijobeditorplugin.h"
+
+namespace JEDVEPLUGIN {
+
+IJobEditorPlugin::~IJobEditorPlugin() = default;
+
+} // namespace JEDVEPLUGIN
