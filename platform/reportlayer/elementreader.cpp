@@ -11,7 +11,8 @@ namespace REPORTGENERATOR {
 namespace {
 
 const int MAXIMUM_PROBLEMS = 100;
-const int LONGEST_QUOTE = 60; // characters of a wrong value in a message
+const int PROGRESS_STEP = 100000; // characters between two calls
+const int LONGEST_QUOTE = 60;     // characters of a wrong value in a message
 const char* const NO_NAME =
     QT_TRANSLATE_NOOP("ReportLayer", "The name of an attribute holds a wrong character");
 const char* const TOO_DEEP =
@@ -37,7 +38,7 @@ struct SimpleContent
 class Reader
 {
 public:
-    Reader(const QString& text, const Prolog& prolog);
+    Reader(const QString& text, const Prolog& prolog, const ReadProgress& progress);
     bool readRoot(IRGObject& root, bool whole);
     const Problem& failure() const { return m_failure; }
 
@@ -47,6 +48,7 @@ private:
     bool readAttributes(IRGObject& element, Place* place);
     bool readChild(IRGObject& element, Place* place);
     bool readNested(IRGObject& element, int field);
+    bool mayGoOn();
     bool readSimple(IRGObject& element, int field, Place* place);
     bool readText(SimpleContent* content);
     bool acceptForeignAttributes();
@@ -61,6 +63,7 @@ private:
 
     const QString m_text;
     const Prolog m_prolog;
+    const ReadProgress m_progress;
     QXmlStreamReader m_reader;
     Problem m_failure;
     QVector<Problem> m_problems;
@@ -68,6 +71,7 @@ private:
     int m_begin = 0;     // of the current token in m_text
     int m_end = 0;
     int m_level = 0;
+    int m_told = 0; // where progress was told last
     bool m_followsTable = true;
 };
 
@@ -127,9 +131,10 @@ quint64 bitOf(int field)
     return Q_UINT64_C(1) << field;
 }
 
-Reader::Reader(const QString& text, const Prolog& prolog)
+Reader::Reader(const QString& text, const Prolog& prolog, const ReadProgress& progress)
     : m_text(text)
     , m_prolog(prolog)
+    , m_progress(progress)
     , m_reader(text)
     , m_end(prolog.end)
 {
@@ -268,6 +273,8 @@ bool Reader::readNested(IRGObject& element, int field)
     const Field& row = element.table().fields[field];
     ElementAccess::Cell& cell = ElementAccess::cells(element)[field];
     if (row.list) {
+        if (!mayGoOn())
+            return false;
         if (!cell.list)
             cell.list = row.listOperations->make();
         return readElement(*row.listOperations->appendElement(cell.list));
@@ -276,6 +283,16 @@ bool Reader::readNested(IRGObject& element, int field)
     if (element.table().choice)
         ElementAccess::setBit(element, field);
     return readElement(*cell.element);
+}
+
+// Only lists make a text long.
+bool Reader::mayGoOn()
+{
+    if (!m_progress || m_begin - m_told < PROGRESS_STEP)
+        return true;
+    m_told = m_begin;
+    return m_progress(m_begin, m_text.size()) ||
+           fail(message(QT_TRANSLATE_NOOP("ReportLayer", "Reading was stopped")));
 }
 
 bool Reader::readSimple(IRGObject& element, int field, Place* place)
@@ -438,14 +455,15 @@ bool Reader::fail(const QString& reason)
 
 } // namespace
 
-bool readElementText(const QString& text, IRGObject& root, bool whole, Problem* failure)
+bool readElementText(const QString& text, IRGObject& root, bool whole, const ReadProgress& progress,
+                     Problem* failure)
 {
     const bool marked = text.startsWith(QChar(QChar::ByteOrderMark));
     const QString plain = marked ? text.mid(1) : text;
     Prolog prolog;
     if (!keepsBounds(plain, &prolog, failure))
         return false;
-    Reader reader(plain, prolog);
+    Reader reader(plain, prolog, progress);
     if (reader.readRoot(root, whole))
         return true;
     *failure = reader.failure();

@@ -52,13 +52,18 @@ IRGObject::~IRGObject()
 
 bool IRGObject::SetXmlString(const QString& text, bool whole)
 {
+    return SetXmlString(text, whole, ReadProgress());
+}
+
+bool IRGObject::SetXmlString(const QString& text, bool whole, const ReadProgress& progress)
+{
     if (text.isEmpty() && !whole) {
         reset();
         return true;
     }
     IRGObject loaded(*m_table);
     Problem failure;
-    if (!readElementText(text, loaded, whole, &failure)) {
+    if (!readElementText(text, loaded, whole, progress, &failure)) {
         ElementAccess::makeExtras(*this).failure = failure;
         return false;
     }

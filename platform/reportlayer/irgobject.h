@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <QString>
 #include <QVector>
 #include <reportlayer/elementtable.h>
@@ -14,6 +15,10 @@ struct REPORTLAYER_EXPORT Problem
     int column = 0; // of the place where reading stood, from 0
     QString reason;
 };
+
+/// Told now and then how far reading has come. \param done, total  in characters of the text
+/// \return false to stop reading
+using ReadProgress = std::function<bool(int done, int total)>;
 
 /// Base of every file element: a value that can be copied, knows which of its parts are set, and is read from
 /// and written to XML text by one engine that a constant table guides (table()).
@@ -37,6 +42,9 @@ public:
     ///         has another root or breaks a bound, and, after SetValidate(true), for one that breaks the
     ///         schema
     bool SetXmlString(const QString& text, bool whole);
+    /// The same for texts that take long. A reading that is stopped fails like one of malformed text.
+    /// \param progress  may be empty
+    bool SetXmlString(const QString& text, bool whole, const ReadProgress& progress);
 
     /// The content as text in the one layout of all files: two blanks a level, attributes in table order, set
     /// or required fields only. An enumeration that has no value is left out even when it is required. \param

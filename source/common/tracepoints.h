@@ -18,6 +18,8 @@ constexpr const char* RESOURCE_HANDLING = "resourcehandling";
 constexpr const char* SUB_SETTING_FACTORY = "jedsubsettingfactory";
 constexpr const char* SELECTABLE_RESOURCE_MODEL = "selectableresourcemodel";
 constexpr const char* COMMON_HELPER = "jedcommonhelper";
+constexpr const char* JOB_PROFILE_FACTORY = "jobprofilefactory";
+constexpr const char* FREQUENCY_STORE_LIST_PROFILE = "frequencystorelistprofile";
 
 constexpr TracePoint UNKNOWN_VALUE_ITEM{RESOURCE_HANDLING, 325};
 constexpr TracePoint READING_RESOURCE_FILE{RESOURCE_HANDLING, 382};
