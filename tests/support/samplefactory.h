@@ -2,14 +2,13 @@
 
 #include "jedsubsettingfactory.h"
 
-/// A plug-in without settings of its own that writes down what the library and the editor ask of it.
-class SampleFactory : public JEDVEPLUGIN::JEDSubSettingFactory
+/// A plug-in without settings of its own that writes down what the editor asks of it.
+/// \tparam Base  JEDSubSettingFactory or what derives from it
+template <class Base>
+class StubFactory : public Base
 {
 public:
-    explicit SampleFactory(const QString& name)
-        : JEDSubSettingFactory(name)
-    {
-    }
+    using Base::Base;
 
     JEDVEPLUGIN::ISubSetting* createSubSetting(const QString& type, JEDVEPLUGIN::ISubSetting*) override
     {
@@ -42,7 +41,6 @@ public:
     void clear() override { told("clear"); }
     bool isModified() const override { return false; }
     void setModified(bool) override { told("setModified"); }
-    bool needsUserInputOnCreation(const QString&) const override { return false; }
     bool isDeletable(JEDVEPLUGIN::ISubSetting*) const override { return true; }
     const QStringList& supportedTypesOf(const QString& type) const override
     {
@@ -53,6 +51,26 @@ public:
     QList<JEDVEPLUGIN::ResourceUse> resourceUse() const override { return {}; }
     QString description() const override { return QString(); }
 
+    QStringList m_calls;
+    QStringList m_typesOf;            // What supportedTypesOf() gives.
+    mutable QStringList m_askedTypes; // What it was asked.
+
+protected:
+    std::nullptr_t told(const QString& call)
+    {
+        m_calls.append(call);
+        return nullptr;
+    }
+};
+
+/// The same straight on JEDSubSettingFactory; writes down as well what that asks.
+class SampleFactory : public StubFactory<JEDVEPLUGIN::JEDSubSettingFactory>
+{
+public:
+    using StubFactory::StubFactory;
+
+    bool needsUserInputOnCreation(const QString&) const override { return false; }
+
     // What only plug-ins reach.
     using JEDSubSettingFactory::defaultManualPath;
     using JEDSubSettingFactory::jobTypes;
@@ -60,20 +78,9 @@ public:
     using JEDSubSettingFactory::rulesDir;
     using JEDSubSettingFactory::supportedTypeList;
 
-    QStringList m_calls;
-    QStringList m_typesOf;            // What supportedTypesOf() gives.
-    mutable QStringList m_askedTypes; // What it was asked.
-
 protected:
     void changeReadOnly(bool readOnly) override
     {
         told(QString("changeReadOnly %1, is %2").arg(readOnly).arg(isReadOnly()));
-    }
-
-private:
-    std::nullptr_t told(const QString& call)
-    {
-        m_calls.append(call);
-        return nullptr;
     }
 };
