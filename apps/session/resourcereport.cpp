@@ -5,17 +5,16 @@
 #include "suggestion.h"
 #include "tuneritem.h"
 
-#include <jedcommonhelper.h>
 #include <jobxml/job.h>
 #include <jobxml/parametersettext.h>
 #include <jobxml/tunerproperties.h>
+#include <kit/subjobheader.h>
 #include <parametersetmapper.h>
 #include <QCoreApplication>
 #include <QDir>
 #include <QHash>
 #include <QSet>
 
-using JEDVEPLUGIN::JEDCommonHelper;
 using JEDVEPLUGIN::ParameterSetMapper;
 using JEDVEPLUGIN::ResourceDescription;
 
@@ -256,10 +255,7 @@ void compareResourceFiles(QList<ResourceFile>* files)
 
 QStringList startupModes(const ResourceDescription& description, JEDVE::enJOB_TYPE jobType)
 {
-    const QStringList offered = description.getStartupModes();
-    return JEDCommonHelper::restrictedStartupModes(offered.isEmpty() ? JobXml::Subjob::GetStartupModes()
-                                                                     : offered,
-                                                   JEDCommonHelper::allowedStartupModeString(jobType));
+    return PluginKit::startupModes(description.getStartupModes(), jobType);
 }
 
 QString resourceKey(const ResourceDescription& description)

@@ -49,6 +49,19 @@ void collectSets(const REPORTGENERATOR::IRGObject& parent, QList<PluginKit::Carr
     }
 }
 
+// The field of an element that holds a parameter set; empty if there is none.
+QString fieldOf(const QString& set, const REPORTGENERATOR::ElementTable& table)
+{
+    for (int i = 0; i < table.fieldCount; ++i) {
+        const REPORTGENERATOR::Field& field = table.fields[i];
+        const REPORTGENERATOR::ParameterSet* found =
+            field.element ? PluginKit::findParameterSet(*field.element) : nullptr;
+        if (found && set == QLatin1String(found->name))
+            return QLatin1String(field.name);
+    }
+    return QString();
+}
+
 QStringList childNames(const QString& xml)
 {
     QStringList names;
@@ -90,6 +103,17 @@ void putParameterSet(const QString& name, const QString& xml, JobXml::Subjob* su
         handler->addParameterSetObject(name, xml, subjob->GetSettings());
 }
 
+QList<Problem> putText(const QString& name, const QString& xml, JobXml::Subjob* subjob)
+{
+    QList<Problem> problems;
+    for (const QString& part : lostParts(name, xml))
+        problems.append({Problem::SEVERITY_WARNING, name, part.section(QLatin1Char('/'), 1),
+                         Texts::tr("%1 is lost: a job file cannot hold it").arg(part)});
+    if (isCarriedByJobFile(name))
+        putParameterSet(name, xml, subjob);
+    return problems;
+}
+
 QList<Problem> putValues(const Node& set, const QString& base, JobXml::Subjob* subjob)
 {
     const QString name = set.GetId();
@@ -103,12 +127,17 @@ QList<Problem> putValues(const Node& set, const QString& base, JobXml::Subjob* s
         problems.append({Problem::SEVERITY_ERROR, name, id,
                          Texts::tr("%1/%2 is lost: its field does not take \"%3\"")
                              .arg(name, id, set.GetChild(id)->GetText())});
-    for (const QString& part : lostParts(name, xml))
-        problems.append({Problem::SEVERITY_WARNING, name, part.section(QLatin1Char('/'), 1),
-                         Texts::tr("%1 is lost: a job file cannot hold it").arg(part)});
-    if (isCarriedByJobFile(name))
-        putParameterSet(name, xml, subjob);
-    return problems;
+    return problems + putText(name, xml, subjob);
+}
+
+void removeParameterSet(const QString& name, JobXml::Subjob* subjob)
+{
+    REPORTGENERATOR::IRGObject* const places[] = {subjob, &subjob->GetSettings()};
+    for (REPORTGENERATOR::IRGObject* place : places) {
+        const QString field = fieldOf(name, place->table());
+        if (!field.isEmpty())
+            REPORTGENERATOR::resetField(*place, field);
+    }
 }
 
 QStringList lostParts(const QString& name, const QString& xml)

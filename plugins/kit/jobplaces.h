@@ -34,11 +34,17 @@ QList<CarriedSet> carriedSets(const JobXml::Subjob& subjob);
 /// Puts the text of a parameter set where the library's job file handler wants it.
 void putParameterSet(const QString& name, const QString& xml, JobXml::Subjob* subjob);
 
-/// Puts the values of a parameter set there.
+/// The same, and tells as warnings what a job file cannot hold. It takes nothing of a set that has no place in it.
+QList<JEDVEPLUGIN::Problem> putText(const QString& name, const QString& xml, JobXml::Subjob* subjob);
+
+/// The same with the values of a parameter set.
 /// \param set   a node of the value tree that is named by the parameter set
 /// \param base  text of the same set that gives what the node has no value for; may be empty
-/// \return an error for each value that is lost on the way; a warning for what a job file cannot hold
+/// \return before the warnings, an error for each value that is lost on the way
 QList<JEDVEPLUGIN::Problem> putValues(const Node& set, const QString& base, JobXml::Subjob* subjob);
+
+/// Takes a parameter set out of a sub-job.
+void removeParameterSet(const QString& name, JobXml::Subjob* subjob);
 
 /// What of a parameter set's text a job file cannot hold: "SET" if all of it, else "SET/PART" for each field or group that
 /// the job file handler takes out.

@@ -1,0 +1,200 @@
+#include <kit/kitfactory.h>
+#include <kit/mimetext.h>
+#include <kit/settingnode.h>
+#include <kit/subjobnode.h>
+
+#include <QScopedValueRollback>
+#include <QWidget>
+#include <values/node.h>
+
+using JEDVEPLUGIN::Problem;
+
+namespace PluginKit {
+
+SettingNode::SettingNode(KitFactory& factory, const SettingType& type, SettingNode* parent)
+    : AbstractSubSetting(parent)
+    , m_factory(factory)
+    , m_type(type)
+{
+}
+
+SettingNode::~SettingNode()
+{
+    dismantle();
+}
+
+QString SettingNode::getSettingType() const
+{
+    return m_type.type;
+}
+
+QString SettingNode::getDisplayName() const
+{
+    return m_type.displayName;
+}
+
+bool SettingNode::setDisplayName(const QString&)
+{
+    return false;
+}
+
+QStringList SettingNode::parameterSetNames() const
+{
+    QStringList result;
+    for (const QString& name : m_type.parameterSets) {
+        if (heldSet(name))
+            result.append(name);
+    }
+    return result;
+}
+
+QString SettingNode::parameterSetText(const QString& name) const
+{
+    const HeldSet* const set = heldSet(name);
+    return set ? set->text() : QString();
+}
+
+bool SettingNode::setParameterSetText(const QString& name, const QString& xml)
+{
+    HeldSet* const set = find(name);
+    return set && set->setText(xml);
+}
+
+QWidget* SettingNode::getWidget()
+{
+    if (!m_widget && m_makesWidget) {
+        m_widget = makeWidget();
+        if (m_widget)
+            m_widget->setEnabled(!isReadOnly());
+    }
+    return m_widget;
+}
+
+QList<Problem> SettingNode::problems() const
+{
+    QList<Problem> result;
+    for (const auto& set : m_sets)
+        result += set->problems();
+    return result + m_factory.findProblems(*this);
+}
+
+QString SettingNode::getSettingCategory() const
+{
+    return m_type.category;
+}
+
+QPixmap* SettingNode::getPixmap() const
+{
+    return m_factory.getSettingIcon(m_type.type);
+}
+
+bool SettingNode::isDragEnabled() const
+{
+    return true;
+}
+
+bool SettingNode::isDropEnabled() const
+{
+    return !isReadOnly() && !m_type.children.isEmpty();
+}
+
+QString SettingNode::getMimeText(int level) const
+{
+    return toMimeText(nodeText(const_cast<SettingNode&>(*this), m_factory.getName()),
+                      level * CHARS_PER_INDENT);
+}
+
+bool SettingNode::supportsMimeText() const
+{
+    return true;
+}
+
+void SettingNode::moved()
+{
+    tellChange();
+}
+
+void SettingNode::setReadOnly(bool readOnly, bool subtree)
+{
+    const QScopedValueRollback<bool> existing(m_makesWidget, false);
+    AbstractSubSetting::setReadOnly(readOnly, subtree);
+}
+
+QString SettingNode::getToolTip() const
+{
+    QStringList lines{getDisplayName()};
+    for (const Problem& problem : problems())
+        lines.append(problem.text);
+    return lines.join(QLatin1Char('\n'));
+}
+
+SubjobNode* SettingNode::subjob()
+{
+    auto* const above = static_cast<SettingNode*>(parent());
+    return above ? above->subjob() : nullptr;
+}
+
+void SettingNode::holdSetsOfReceiver()
+{
+    const SubjobNode* const owner = subjob();
+    for (const QString& name : m_type.parameterSets) {
+        if (owner && owner->values(name))
+            holdSet(name, owner->defaultText(name));
+    }
+}
+
+bool SettingNode::holdSet(const QString& name, const QString& xml)
+{
+    if (HeldSet* const held = find(name))
+        return held->setText(xml);
+    const SubjobNode* const owner = subjob();
+    if (!owner || !m_type.parameterSets.contains(name))
+        return false;
+    auto made = std::make_unique<HeldSet>(name, owner->values(name), [this] { tellChange(); });
+    if (!made->setText(xml))
+        return false;
+    m_sets.push_back(std::move(made));
+    return true;
+}
+
+const HeldSet* SettingNode::heldSet(const QString& name) const
+{
+    return find(name);
+}
+
+ValueBase* SettingNode::value(const QString& set, const QString& field) const
+{
+    const HeldSet* const held = heldSet(set);
+    return held && held->values() ? held->values()->GetChild(field) : nullptr;
+}
+
+void SettingNode::dismantle()
+{
+    delete m_widget;
+    while (ISubSetting* const last = child(childCount() - 1)) {
+        removeSubSetting(last);
+        delete last;
+    }
+    m_sets.clear();
+}
+
+QWidget* SettingNode::makeWidget()
+{
+    return nullptr;
+}
+
+void SettingNode::tellChange()
+{
+    m_factory.tellChange(this);
+}
+
+HeldSet* SettingNode::find(const QString& name) const
+{
+    for (const auto& set : m_sets) {
+        if (set->name() == name)
+            return set.get();
+    }
+    return nullptr;
+}
+
+} // namespace PluginKit

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <ijobeditorplugin.h>
+#include <jedabstractsubsettingfactory.h>
+#include <jobxml/job.h>
+#include <quilappstartup/cfgcenter.h>
+#include <resourceselectiondialog.h>
+#include <support/tracerecorder.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QPluginLoader>
+#include <QTimer>
+
+#include <memory>
+
+namespace JedTest {
+
+/// Makes the example station the installation of the process.
+inline void useStation()
+{
+    qunsetenv(CfgCenter::ENVIRONMENT_VARIABLE);
+    CfgCenter::Instance()->SetInstallation(QStringLiteral(JED_SOURCE_DIR "/installation"));
+}
+
+/// A plug-in of this build, loaded as the editor does, with its factory.
+class LoadedPlugin
+{
+public:
+    /// \param name  "minimal"
+    /// \param path  value-tree path below which its node lies
+    explicit LoadedPlugin(const QString& name, const QString& path = QStringLiteral("/Test/"))
+        : m_loader(QStringLiteral(JED_PLUGINS "/lib%1.so").arg(name))
+    {
+        auto* const plugin = qobject_cast<JEDVEPLUGIN::IJobEditorPlugin*>(m_loader.instance());
+        if (!plugin)
+            qFatal("%s", qPrintable(m_loader.errorString()));
+        m_factory.reset(plugin->createFactory());
+        TraceRecorder traces; // The names of the tuner property files; components that are not built.
+        m_factory->initialize(path, nullptr);
+    }
+
+    JEDVEPLUGIN::JEDAbstractSubSettingFactory* operator->() const { return m_factory.get(); }
+    JEDVEPLUGIN::JEDAbstractSubSettingFactory* get() const { return m_factory.get(); }
+
+private:
+    QPluginLoader m_loader;
+    std::unique_ptr<JEDVEPLUGIN::JEDAbstractSubSettingFactory> m_factory;
+};
+
+/// A sub-job that names a receiver and nothing else.
+inline JobXml::Subjob subjobOn(const QString& type, const QString& baseResource,
+                               const QString& name = "Watch")
+{
+    JobXml::Subjob subjob;
+    subjob.SetName(name);
+    subjob.SetStartupMode(JobXml::Subjob::NameToStartupMode("Automatic"));
+    subjob.GetResourceDescription().SetType(JobXml::ResourceDescription::NameToType(type));
+    subjob.GetResourceDescription().SetBaseResource(baseResource);
+    return subjob;
+}
+
+/// An example job of the station.
+inline JobXml::Job exampleJob(const QString& name)
+{
+    QFile file(QStringLiteral(JED_SOURCE_DIR "/installation/Jobs/%1.xml").arg(name));
+    JobXml::Job job;
+    if (!file.open(QIODevice::ReadOnly) || !job.SetXmlString(QString::fromUtf8(file.readAll()), true))
+        qFatal("no job %s", qPrintable(name));
+    return job;
+}
+
+/// Whether a job that holds the sub-job follows the schema.
+inline bool isValidInJob(const JobXml::Subjob& subjob, QString* reason)
+{
+    JobXml::Job job;
+    job.GetJobInformation().SetJobType(JobXml::JobInformation::JOBTYPE_SEARCH);
+    job.GetJobInformation().SetName("Job");
+    job.AppendSubjob(subjob);
+    JobXml::Job read;
+    read.SetXmlString(job.GetXmlString(true), true);
+    read.SetValidate(true);
+    const bool isValid = read.Check();
+    *reason = read.GetCheckReason();
+    return isValid;
+}
+
+/// Answers the resource selection dialog that comes up next.
+/// \param resource  "TYPE/BASE" to choose; empty: cancel
+inline void answerDialog(const QString& resource)
+{
+    QTimer::singleShot(0, qApp, [resource] {
+        auto* const dialog =
+            qobject_cast<JEDVEPLUGIN::ResourceSelectionDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            qFatal("no dialog");
+        if (resource.isEmpty()) {
+            dialog->findChild<QAbstractButton*>("ResourceSelection_CancelButton")->click();
+            return;
+        }
+        dialog->findChild<QComboBox*>("ResourceSelection_TunerType")
+            ->setCurrentText(resource.section('/', 0, 0));
+        dialog->findChild<QComboBox*>("ResourceSelection_BaseResource")
+            ->setCurrentText(resource.section('/', 1));
+        dialog->findChild<QAbstractButton*>("ResourceSelection_OkButton")->click();
+    });
+}
+
+} // namespace JedTest
