@@ -19,6 +19,7 @@ constexpr const char* SUB_SETTING_FACTORY = "jedsubsettingfactory";
 constexpr const char* SELECTABLE_RESOURCE_MODEL = "selectableresourcemodel";
 constexpr const char* ABSTRACT_SUB_SETTING_FACTORY = "jedabstractsubsettingfactory";
 constexpr const char* COMMON_HELPER = "jedcommonhelper";
+constexpr const char* MAP_VIEW_LAYER_MANAGER = "mapviewlayermanager";
 constexpr const char* JOB_PROFILE_FACTORY = "jobprofilefactory";
 constexpr const char* FREQUENCY_STORE_LIST_PROFILE = "frequencystorelistprofile";
 
