@@ -239,6 +239,7 @@ void SubJobWidget::setSCPModel(QAbstractItemModel* model)
     if (getSCPModel())
         disconnect(getSCPModel(), nullptr, this, nullptr);
     m_scpProxy->setSourceModel(model);
+    m_scpView->resizeColumnsToContents();
     if (!model)
         return;
     connect(model, &QAbstractItemModel::dataChanged, this, &SubJobWidget::slotValidateDetectorBaseResource);

@@ -142,6 +142,14 @@ public:
         return field;
     }
 
+    QComboBox* addChoice(Row row)
+    {
+        auto* field = add<QComboBox>(row);
+        // Texts come with each resource, also after the first show.
+        field->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        return field;
+    }
+
     QSpinBox* addNumber(Row row, int maximum)
     {
         auto* field = add<QSpinBox>(row);
@@ -160,22 +168,23 @@ void SubJobWidget::createFields(QGridLayout* grid)
 {
     FieldGrid fields(grid, m_labels);
     m_name = fields.addReadOnly(ROW_NAME);
-    m_recordLocation = fields.add<QComboBox>(ROW_RECORD_LOCATION);
+    m_recordLocation = fields.addChoice(ROW_RECORD_LOCATION);
     m_type = fields.addReadOnly(ROW_TYPE);
     m_baseResource = fields.addReadOnly(ROW_BASE_RESOURCE);
-    m_startupModes = fields.add<QComboBox>(ROW_STARTUP_MODE);
+    m_startupModes = fields.addChoice(ROW_STARTUP_MODE);
     m_preClassifier = fields.add<QCheckBox>(ROW_PRE_CLASSIFIER);
-    grid->addWidget(new QGroupBox(translated(ROW_TEXTS[ROW_DETECTOR_GROUP].label), this), ROW_DETECTOR_GROUP,
-                    0, 1, 2);
+    auto* group = new QGroupBox(translated(ROW_TEXTS[ROW_DETECTOR_GROUP].label), this);
+    group->setFlat(true); // A heading: the fields below stay in this grid, in line with those above.
+    grid->addWidget(group, ROW_DETECTOR_GROUP, 0, 1, 2);
     m_detector = fields.add<QCheckBox>(ROW_DETECTOR);
-    m_detectorType = fields.add<QComboBox>(ROW_DETECTOR_TYPE);
+    m_detectorType = fields.addChoice(ROW_DETECTOR_TYPE);
     m_production = fields.add<QCheckBox>(ROW_PRODUCTION);
     m_autoSeparation = fields.add<QCheckBox>(ROW_AUTO_SEPARATION);
     m_filterSeparation = fields.add<QCheckBox>(ROW_FILTER_SEPARATION);
     m_onlineRecombination = fields.add<QCheckBox>(ROW_ONLINE_RECOMBINATION);
-    m_detectorRecordLocation = fields.add<QComboBox>(ROW_DETECTOR_RECORD_LOCATION);
+    m_detectorRecordLocation = fields.addChoice(ROW_DETECTOR_RECORD_LOCATION);
     m_dscChannels = fields.addNumber(ROW_DSC_CHANNELS, MAX_DSC_CHANNELS);
-    m_detectorBaseResource = fields.add<QComboBox>(ROW_DETECTOR_BASE_RESOURCE);
+    m_detectorBaseResource = fields.addChoice(ROW_DETECTOR_BASE_RESOURCE);
     m_minCoverage = fields.addNumber(ROW_MIN_COVERAGE, MAX_COVERAGE);
     m_minCoverage->setSuffix("%");
     m_autoRecording = fields.add<QCheckBox>(ROW_AUTO_RECORDING);
@@ -192,6 +201,8 @@ void SubJobWidget::createSCPList(QVBoxLayout* layout)
     m_scpView->setAccessibleName(label->text());
     m_scpView->setContextMenuPolicy(Qt::CustomContextMenu);
     m_scpView->setCornerButtonEnabled(false);
+    m_scpView->setSizeAdjustPolicy(
+        QAbstractScrollArea::AdjustToContents); // Shows all columns if there is room.
     label->setBuddy(m_scpView);
     m_labels.insert(m_scpView, label);
 
