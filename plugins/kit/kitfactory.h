@@ -52,7 +52,7 @@ public:
     /// Looks for the receivers first.
     void initialize(const QString& path, VelmoGui::GuiComponentCommon* component) override;
 
-    const PluginDeclaration& declaration() const { return m_declaration; }
+    const PluginDeclaration& declared() const { return m_declaration; }
     /// The receivers that the plug-in can use.
     const QList<std::shared_ptr<JEDVEPLUGIN::ResourceDescription>>& receivers() const
     {

@@ -15,7 +15,7 @@ using JEDVEPLUGIN::SubJobWidget;
 namespace PluginKit {
 
 SubjobPage::SubjobPage(const KitFactory& factory, SubjobNode& node)
-    : SubJobWidget(factory.declaration().hasDetector, factory.declaration().hasPreClassifier, nullptr)
+    : SubJobWidget(factory.declared().hasDetector, factory.declared().hasPreClassifier, nullptr)
     , m_factory(factory)
     , m_node(node)
     , m_autonomous(new SelectableResourceModel(factory.receivers(), this))
