@@ -23,6 +23,8 @@ class JEDVEPB_EXPORT AddButton : public QPushButton
 {
     Q_OBJECT
 public:
+    /// Disabled, with an empty menu.
+    /// \param parent  owner, may be null
     explicit AddButton(TabWidgetEx* parent);
 
 protected:
@@ -43,21 +45,28 @@ class JEDVEPB_EXPORT TabWidgetEx : public QTabWidget
 {
     Q_OBJECT
 public:
+    /// No tabs, no entries, not read-only.
+    /// \param parent  owner, may be null
     explicit TabWidgetEx(QWidget* parent);
 
-    /// Adds an entry to the button's menu.
-    /// \param text    what si_addTab() tells when the entry is chosen
-    /// \param sorted  true: in front of the first entry whose text is greater, by the codes of the characters;
-    ///                false: at the end
+    /// Adds an entry to the button's menu. The first one enables the button, save while the widget is read-only.
+    /// \param text    what si_addTab() tells when the entry is chosen; may occur several times
+    /// \param sorted  true: in front of the first entry whose text is greater, by the codes of the characters ("B"
+    ///                comes before "a"); false: at the end
     void appendAddAction(const QString& text, bool sorted);
+    /// The same with an icon.
     void appendAddAction(const QString& text, const QIcon& icon, bool sorted);
-    /// Removes all entries of that text.
+    /// Removes all entries of exactly that text. Their actions live on, without effect, as children of the menu.
     void removeAddAction(const QString& text);
+    /// Whether there is an entry of exactly that text.
     bool hasAddAction(const QString& text) const;
+    /// Deletes all entries.
     void clearAddActions();
-    /// Shows or hides the close button of a tab. An index that does not exist is ignored.
+    /// Shows or hides the close button of a tab, which keeps the slot for it. An index that does not exist is
+    /// ignored.
     void setTabClosable(int index, bool closable);
-    /// Read-only: neither can tabs be added nor closed.
+    /// Read-only: neither can tabs be added nor closed. Concerns the tabs that there are now; one that is added
+    /// meanwhile can be closed until setTabClosable() or the next change says otherwise.
     void setReadOnly(bool readOnly);
 
 signals:
@@ -69,8 +78,8 @@ private:
     void enableCloseButton(QWidget* button);
     void disableCloseButton(QWidget* button);
 
-    TABWIDGET_INTERNAL::AddButton* addButton;
-    QSignalMapper signalMapper;
+    TABWIDGET_INTERNAL::AddButton* addButton; // Child of this widget.
+    QSignalMapper signalMapper;               // From each entry to its text.
     bool readOnly;
 };
 

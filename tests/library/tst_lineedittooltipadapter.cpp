@@ -1,162 +1,336 @@
-#include <lineedittooltipadapter.h>
+#include "lineedittooltipadapter.h"
+
+#include <support/testmain.h>
+
+#include <QComboBox>
 #include <QGroupBox>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QToolTip>
 #include <QVBoxLayout>
-#include <support/testmain.h>
 
 using JEDVEPLUGIN::LineEditTooltipAdapter;
 
 namespace {
-// Asks for the tool tip. \return whether somebody answered
-bool ask(QWidget* widget)
-{
-    QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), widget->mapToGlobal(QPoint(1, 1)));
-    event.setAccepted(false);
-    return QCoreApplication::sendEvent(widget, &event);
-}
+
+const QPoint PLACE(120, 90);
 
 int textWidth(const QLineEdit& edit)
 {
     return QFontMetrics(edit.font()).horizontalAdvance(edit.text());
 }
+
+/// Sends what the system sends after the mouse has rested. True if somebody has handled it.
+bool rest(QWidget& widget, const QPoint& place = PLACE)
+{
+    QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), place);
+    return QApplication::sendEvent(&widget, &event);
+}
+
+/// Counts the tool tip events that get through to the line edit.
+class CountingEdit : public QLineEdit
+{
+public:
+    using QLineEdit::QLineEdit;
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::ToolTip)
+            ++m_toolTips;
+        return QLineEdit::event(event);
+    }
+    int m_toolTips = 0;
+};
+
 } // namespace
 
 class TstLineEditTooltipAdapter : public QObject
 {
     Q_OBJECT
 private slots:
-    void cleanup() { QToolTip::hideText(); }
+    void init();
+    void cleanup();
 
-    void textIsShownWhenItIsWider_data();
-    void textIsShownWhenItIsWider();
-    void emptyToolTipOfAFittingText();
-    void removedLineEditShowsItsOwn();
+    void classIsKnownToQt();
+    void toolTipByWidth_data();
+    void toolTipByWidth();
+    void textOfTodayCounts();
+    void fontOfTheFieldCounts();
+    void emptyToolTipShowsNothing();
+    void emptyToolTipTakesAwayTheOneBefore();
+    void toolTipIsConsumed();
+    void toolTipComesAtThePlace();
+    void otherEventsPass_data();
+    void otherEventsPass();
+    void otherWidgetsPass();
+    void toolTipThatIsNoHelpEventPasses();
     void nullIsIgnored();
-    void wholeFormsAreAdded();
-    void lineEditItselfIsAdded();
-    void otherEventsGoOn();
-    void otherWidgetsGoOn();
-    void metaObjectHasNothingOfItsOwn();
+    void removedFieldIsAsBefore();
+    void removingAStrangerChangesNothing();
+    void lineEditIsAddedItself();
+    void allFieldsOfAFormAreAdded();
+    void laterFieldsAreNotAdded();
+    void addedTwiceIsRemovedOnce();
+    void adapterMayGoFirst();
+
+private:
+    std::unique_ptr<CountingEdit> m_edit;
+    std::unique_ptr<LineEditTooltipAdapter> m_adapter;
 };
 
-void TstLineEditTooltipAdapter::textIsShownWhenItIsWider_data()
+void TstLineEditTooltipAdapter::init()
 {
-    QTest::addColumn<int>("missing"); // Pixels that the field is narrower than the text.
-    QTest::addColumn<bool>("isText");
-    QTest::newRow("wider field") << -20 << false;
-    QTest::newRow("just fits") << 0 << false;
-    QTest::newRow("one pixel too narrow") << 1 << true;
-    QTest::newRow("far too narrow") << 40 << true;
+    m_edit = std::make_unique<CountingEdit>("145.500 MHz, the calling frequency of the band");
+    m_edit->setToolTip("frequency");
+    m_edit->resize(textWidth(*m_edit) - 1, 30);
+    m_edit->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_edit.get()));
+    m_adapter = std::make_unique<LineEditTooltipAdapter>(nullptr);
+    m_adapter->addLineEdit(m_edit.get());
 }
 
-void TstLineEditTooltipAdapter::textIsShownWhenItIsWider()
+void TstLineEditTooltipAdapter::cleanup()
 {
-    QFETCH(int, missing);
-    QFETCH(bool, isText);
-    LineEditTooltipAdapter adapter(nullptr);
-    QLineEdit edit;
-    edit.setText("156.800 MHz, marine channel 16");
-    edit.setToolTip("its own");
-    edit.resize(textWidth(edit) - missing, 20);
-    adapter.addLineEdit(&edit);
-    QVERIFY(ask(&edit));
-    QCOMPARE(QToolTip::text(), isText ? edit.text() : QString("its own"));
-}
-
-void TstLineEditTooltipAdapter::emptyToolTipOfAFittingText()
-{
-    LineEditTooltipAdapter adapter(nullptr);
-    QLineEdit edit("x");
-    edit.resize(200, 20);
-    adapter.addLineEdit(&edit);
-    QVERIFY(ask(&edit));
+    m_adapter.reset();
+    m_edit.reset();
+    QToolTip::hideText();
     QTRY_VERIFY(!QToolTip::isVisible());
 }
 
-void TstLineEditTooltipAdapter::removedLineEditShowsItsOwn()
+void TstLineEditTooltipAdapter::classIsKnownToQt()
 {
-    LineEditTooltipAdapter adapter(nullptr);
-    QLineEdit edit("a text that is certainly wider than its field");
-    edit.setToolTip("its own");
-    edit.resize(30, 20);
-    adapter.addLineEdit(&edit);
-    adapter.removeLineEdit(&edit);
-    ask(&edit);
-    QCOMPARE(QToolTip::text(), QString("its own"));
+    const QMetaObject& meta = LineEditTooltipAdapter::staticMetaObject;
+    QCOMPARE(meta.className(), "JEDVEPLUGIN::LineEditTooltipAdapter");
+    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+    QCOMPARE(meta.methodCount(), QObject::staticMetaObject.methodCount());
+    QObject parent;
+    QCOMPARE((new LineEditTooltipAdapter(&parent))->parent(), &parent);
+}
+
+void TstLineEditTooltipAdapter::toolTipByWidth_data()
+{
+    QTest::addColumn<int>("room"); // pixels that the field is wider than its text
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("ample") << 100 << true;
+    QTest::newRow("exactly") << 0 << true;
+    QTest::newRow("one pixel less") << -1 << false;
+    QTest::newRow("half") << -100 << false;
+}
+
+void TstLineEditTooltipAdapter::toolTipByWidth()
+{
+    QFETCH(int, room);
+    QFETCH(bool, fits);
+    m_edit->resize(textWidth(*m_edit) + room, 30);
+    QVERIFY(rest(*m_edit));
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), fits ? m_edit->toolTip() : m_edit->text());
+}
+
+void TstLineEditTooltipAdapter::textOfTodayCounts()
+{
+    rest(*m_edit);
+    QCOMPARE(QToolTip::text(), m_edit->text());
+    m_edit->setText("7");
+    rest(*m_edit);
+    QCOMPARE(QToolTip::text(), QString("frequency"));
+}
+
+void TstLineEditTooltipAdapter::fontOfTheFieldCounts()
+{
+    QFont small = m_edit->font();
+    small.setPixelSize(4);
+    m_edit->setFont(small);
+    rest(*m_edit);
+    QCOMPARE(QToolTip::text(), QString("frequency"));
+    QFont large = m_edit->font();
+    large.setPixelSize(40);
+    m_edit->setFont(large);
+    rest(*m_edit);
+    QCOMPARE(QToolTip::text(), m_edit->text());
+}
+
+void TstLineEditTooltipAdapter::emptyToolTipShowsNothing()
+{
+    m_edit->setToolTip("");
+    m_edit->setText("7");
+    QVERIFY(rest(*m_edit));
+    QVERIFY(!QToolTip::isVisible());
+    m_edit->setText("");
+    QVERIFY(rest(*m_edit));
+    QVERIFY(!QToolTip::isVisible());
+}
+
+void TstLineEditTooltipAdapter::emptyToolTipTakesAwayTheOneBefore()
+{
+    rest(*m_edit);
+    QVERIFY(QToolTip::isVisible());
+    m_edit->setToolTip("");
+    m_edit->setText("7");
+    rest(*m_edit);
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void TstLineEditTooltipAdapter::toolTipIsConsumed()
+{
+    rest(*m_edit);
+    m_edit->setText("7");
+    rest(*m_edit);
+    QCOMPARE(m_edit->m_toolTips, 0);
+}
+
+void TstLineEditTooltipAdapter::toolTipComesAtThePlace()
+{
+    const auto shownAt = [this](const QPoint& place) {
+        rest(*m_edit, place);
+        for (const QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->inherits("QTipLabel") && widget->isVisible())
+                return widget->pos();
+        }
+        return QPoint(-1, -1);
+    };
+    const QPoint first = shownAt(QPoint(20, 40));
+    QVERIFY(first != QPoint(-1, -1));
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
+    QCOMPARE(shownAt(QPoint(70, 140)) - first, QPoint(50, 100));
+}
+
+void TstLineEditTooltipAdapter::otherEventsPass_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("mouse enters") << int(QEvent::Enter);
+    QTest::newRow("mouse leaves") << int(QEvent::Leave);
+    QTest::newRow("status tip") << int(QEvent::StatusTip);
+    QTest::newRow("what is this") << int(QEvent::WhatsThis);
+    QTest::newRow("tool tip changed") << int(QEvent::ToolTipChange);
+}
+
+void TstLineEditTooltipAdapter::otherEventsPass()
+{
+    QFETCH(int, type);
+    QCOMPARE(int(QEvent::ToolTip), 110);
+    QHelpEvent event(QEvent::Type(type), QPoint(1, 1), PLACE);
+    QVERIFY(!m_adapter->eventFilter(m_edit.get(), &event));
+    QVERIFY(!QToolTip::isVisible());
+    QTest::keyClicks(m_edit.get(), "7");
+    QVERIFY(m_edit->text().contains('7'));
+}
+
+void TstLineEditTooltipAdapter::otherWidgetsPass()
+{
+    QLabel label("a label");
+    QObject object;
+    QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), PLACE);
+    QVERIFY(!m_adapter->eventFilter(&label, &event));
+    QVERIFY(!m_adapter->eventFilter(&object, &event));
+    QVERIFY(!m_adapter->eventFilter(nullptr, &event));
+    QVERIFY(!QToolTip::isVisible());
+}
+
+void TstLineEditTooltipAdapter::toolTipThatIsNoHelpEventPasses()
+{
+    QEvent event(QEvent::ToolTip);
+    QVERIFY(!m_adapter->eventFilter(m_edit.get(), &event));
+    QVERIFY(!QToolTip::isVisible());
 }
 
 void TstLineEditTooltipAdapter::nullIsIgnored()
 {
-    LineEditTooltipAdapter adapter(nullptr);
-    adapter.addLineEdit(nullptr);
-    adapter.removeLineEdit(nullptr);
-    adapter.addAllLineEdits(nullptr);
+    m_adapter->addLineEdit(nullptr);
+    m_adapter->removeLineEdit(nullptr);
+    m_adapter->addAllLineEdits(nullptr);
+    rest(*m_edit);
+    QCOMPARE(QToolTip::text(), m_edit->text());
 }
 
-void TstLineEditTooltipAdapter::wholeFormsAreAdded()
+void TstLineEditTooltipAdapter::removedFieldIsAsBefore()
 {
-    QWidget form;
-    auto* const group = new QGroupBox(&form);
-    auto* const inner = new QLineEdit("a text that is wider than its field", group);
-    auto* const outer = new QLineEdit("another text that is wider than its field", &form);
-    auto* const spinBox = new QSpinBox(&form);
-    for (QLineEdit* edit : {inner, outer})
-        edit->resize(30, 20);
-    LineEditTooltipAdapter adapter(nullptr);
-    adapter.addAllLineEdits(&form);
-    QVERIFY(ask(inner));
-    QCOMPARE(QToolTip::text(), inner->text());
-    QVERIFY(ask(outer));
-    QCOMPARE(QToolTip::text(), outer->text());
-    auto* const field = spinBox->findChild<QLineEdit*>();
-    field->setText("12345678901234567890");
-    field->resize(10, 20);
-    QVERIFY(ask(field));
-    QCOMPARE(QToolTip::text(), field->text());
+    m_adapter->removeLineEdit(m_edit.get());
+    rest(*m_edit);
+    QCOMPARE(m_edit->m_toolTips, 1);
+    QCOMPARE(QToolTip::text(), QString("frequency"));
 }
 
-void TstLineEditTooltipAdapter::lineEditItselfIsAdded()
+void TstLineEditTooltipAdapter::removingAStrangerChangesNothing()
 {
-    QLineEdit edit("a text that is wider than its field");
-    edit.resize(30, 20);
+    QLineEdit other;
+    m_adapter->removeLineEdit(&other);
+    rest(*m_edit);
+    QCOMPARE(QToolTip::text(), m_edit->text());
+}
+
+void TstLineEditTooltipAdapter::lineEditIsAddedItself()
+{
+    CountingEdit edit("some text that is far too long");
+    edit.resize(10, 30);
     LineEditTooltipAdapter adapter(nullptr);
     adapter.addAllLineEdits(&edit);
-    QVERIFY(ask(&edit));
+    edit.show();
+    rest(edit);
+    QCOMPARE(edit.m_toolTips, 0);
     QCOMPARE(QToolTip::text(), edit.text());
 }
 
-void TstLineEditTooltipAdapter::otherEventsGoOn()
+void TstLineEditTooltipAdapter::allFieldsOfAFormAreAdded()
 {
-    LineEditTooltipAdapter adapter(nullptr);
-    QLineEdit edit("text");
-    for (const QEvent::Type type : {QEvent::Enter, QEvent::FocusIn, QEvent::WhatsThis, QEvent::Timer}) {
-        QEvent event(type);
-        QVERIFY(!adapter.eventFilter(&edit, &event));
+    QWidget form;
+    auto* group = new QGroupBox(&form);
+    auto* inner = new QGroupBox(group);
+    const QList<CountingEdit*> edits = {new CountingEdit(&form), new CountingEdit(group),
+                                        new CountingEdit(inner)};
+    auto* spinBox = new QSpinBox(inner);
+    auto* comboBox = new QComboBox(inner);
+    comboBox->setEditable(true);
+    auto* label = new QLabel("label", &form);
+    label->setToolTip("of the label");
+    m_adapter->addAllLineEdits(&form);
+    form.show();
+    for (CountingEdit* edit : edits) {
+        edit->setText("some text that is far too long");
+        edit->resize(10, 30);
+        rest(*edit);
+        QCOMPARE(edit->m_toolTips, 0);
+        QCOMPARE(QToolTip::text(), edit->text());
+        QToolTip::hideText();
     }
-    // Of the right type, but without a place.
-    QEvent event(QEvent::ToolTip);
-    QCOMPARE(int(event.type()), 110);
-    QVERIFY(!adapter.eventFilter(&edit, &event));
+    spinBox->setPrefix("a prefix that is far too long ");
+    comboBox->setEditText("some other text that is far too long");
+    for (QLineEdit* edit : {spinBox->findChild<QLineEdit*>(), comboBox->lineEdit()}) {
+        edit->resize(10, 30);
+        rest(*edit);
+        QCOMPARE(QToolTip::text(), edit->text());
+    }
+    rest(*label);
+    QCOMPARE(QToolTip::text(), QString("of the label"));
 }
 
-void TstLineEditTooltipAdapter::otherWidgetsGoOn()
+void TstLineEditTooltipAdapter::laterFieldsAreNotAdded()
 {
-    LineEditTooltipAdapter adapter(nullptr);
-    QWidget widget;
-    QHelpEvent event(QEvent::ToolTip, QPoint(), QPoint());
-    QVERIFY(!adapter.eventFilter(&widget, &event));
+    QWidget form;
+    m_adapter->addAllLineEdits(&form);
+    auto* edit = new CountingEdit("some text that is far too long", &form);
+    edit->resize(10, 30);
+    rest(*edit);
+    QCOMPARE(edit->m_toolTips, 1);
 }
 
-void TstLineEditTooltipAdapter::metaObjectHasNothingOfItsOwn()
+void TstLineEditTooltipAdapter::addedTwiceIsRemovedOnce()
 {
-    const QMetaObject& meta = LineEditTooltipAdapter::staticMetaObject;
-    QCOMPARE(meta.className(), "JEDVEPLUGIN::LineEditTooltipAdapter");
-    QCOMPARE(meta.methodCount(), meta.methodOffset());
-    QObject parent;
-    QCOMPARE((new LineEditTooltipAdapter(&parent))->parent(), &parent);
+    m_adapter->addLineEdit(m_edit.get());
+    m_adapter->addAllLineEdits(m_edit.get());
+    m_adapter->removeLineEdit(m_edit.get());
+    rest(*m_edit);
+    QCOMPARE(m_edit->m_toolTips, 1);
+}
+
+void TstLineEditTooltipAdapter::adapterMayGoFirst()
+{
+    m_adapter.reset();
+    rest(*m_edit);
+    QCOMPARE(m_edit->m_toolTips, 1);
+    QCOMPARE(QToolTip::text(), QString("frequency"));
 }
 
 JED_TEST_MAIN(TstLineEditTooltipAdapter)

@@ -1,334 +1,618 @@
-#include <QAction>
-#include <QLabel>
-#include <QMenu>
-#include <QStyle>
-#include <QTabBar>
-#include <QtTest/qtest_gui.h>
-#include <QtTest/qtest_widgets.h>
-#include <support/testmain.h>
-#include <tabwidgetex.h>
+#include "tabwidgetex.h"
 
+#include <support/popupdriver.h>
+#include <support/testmain.h>
+
+#include <QAction>
+#include <QMenu>
+#include <QMetaMethod>
+#include <QPointer>
+#include <QTabBar>
+
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+
+using JedTest::PopupDriver;
 using VelmoGui::TabWidgetEx;
 using VelmoGui::TABWIDGET_INTERNAL::AddButton;
 
 namespace {
-AddButton* buttonOf(const TabWidgetEx& widget)
+
+const QString NORMAL_ICON = ":/JobEditorVEPluginBase/Icons/add_tab_normal.png";
+const QString ACTIVE_ICON = ":/JobEditorVEPluginBase/Icons/add_tab_active.png";
+
+AddButton* buttonOf(const TabWidgetEx& tabs)
 {
-    return widget.findChild<AddButton*>("JEDTabWidget_AddButton");
+    return tabs.findChild<AddButton*>("JEDTabWidget_AddButton");
 }
 
-QStringList entriesOf(const TabWidgetEx& widget)
+QMenu* menuOf(const TabWidgetEx& tabs)
+{
+    return buttonOf(tabs)->menu();
+}
+
+QString actionsOf(const TabWidgetEx& tabs)
 {
     QStringList texts;
-    for (const QAction* action : buttonOf(widget)->menu()->actions())
-        texts.append(action->text());
-    return texts;
+    for (const QAction* action : menuOf(tabs)->actions())
+        texts << action->text();
+    return texts.join(' ');
 }
 
-QWidget* closeButton(const TabWidgetEx& widget, int index)
+QAction* action(const TabWidgetEx& tabs, const QString& text)
 {
-    return widget.tabBar()->tabButton(index, QTabBar::RightSide);
+    for (QAction* action : menuOf(tabs)->actions()) {
+        if (action->text() == text)
+            return action;
+    }
+    return nullptr;
 }
 
-bool isActive(const AddButton& button)
+QWidget* closeButton(const TabWidgetEx& tabs, int index, QTabBar::ButtonPosition side = QTabBar::RightSide)
 {
-    const QImage active = QIcon(":/JobEditorVEPluginBase/Icons/add_tab_active.png").pixmap(16).toImage();
-    return button.icon().pixmap(16).toImage() == active;
+    return tabs.tabBar()->tabButton(index, side);
 }
 
-void send(QWidget* widget, QEvent::Type type)
+/// "normal", "active" or "other": which of the two pictures the button shows.
+QString shownIcon(const AddButton* button)
 {
-    QEvent event(type);
-    QCoreApplication::sendEvent(widget, &event);
+    const QImage shown = button->icon().pixmap(16).toImage();
+    if (shown == QIcon(NORMAL_ICON).pixmap(16).toImage())
+        return "normal";
+    return shown == QIcon(ACTIVE_ICON).pixmap(16).toImage() ? "active" : "other";
 }
+
+void enter(QWidget* widget)
+{
+    QEvent event(QEvent::Enter);
+    QApplication::sendEvent(widget, &event);
+}
+
+void leave(QWidget* widget)
+{
+    QEvent event(QEvent::Leave);
+    QApplication::sendEvent(widget, &event);
+}
+
+double luminance(QColor colour)
+{
+    const auto linear = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(QColor one, QColor other)
+{
+    const double brighter = std::max(luminance(one), luminance(other));
+    const double darker = std::min(luminance(one), luminance(other));
+    return (brighter + 0.05) / (darker + 0.05);
+}
+
 } // namespace
 
 class TstTabWidgetEx : public QObject
 {
     Q_OBJECT
 private slots:
-    void construction();
-    void buttonConstruction();
-    void iconsAreCrispAndDifferent();
-    void signalIsAsPluginsKnowIt();
-    void entriesAreSorted();
-    void entryHasItsIcon();
-    void firstEntryEnablesTheButton();
-    void chosenEntryIsTold();
-    void renamedEntryTellsItsFirstText();
-    void entriesAreRemoved();
-    void removedActionLivesOn();
-    void allEntriesAreRemoved();
-    void closeButtonIsHidden();
-    void closeButtonOfNoTab();
-    void readOnlyDisables();
-    void readOnlyAndCloseButtons();
-    void readOnlyAndNewEntries();
-    void iconFollowsTheMouse();
-    void tabsWithoutCloseButtons();
+    void init();
+    void cleanup();
+
+    void classesAreKnownToQt();
+    void freshWidget();
+    void freshButton();
+    void buttonShowsTheActiveIconUnderTheMouse();
+    void disabledButtonKeepsTheNormalIcon();
+    void disabledMeanwhileTheButtonGetsTheNormalIcon();
+    void actionsAreInserted_data();
+    void actionsAreInserted();
+    void actionsHaveTheirIcon();
+    void firstActionEnablesTheButton();
+    void chosenActionIsTold();
+    void renamedActionTellsItsFirstText();
+    void actionIsChosenInTheMenu();
+    void actionsOfThatTextAreRemoved();
+    void removedActionIsSilentAndLivesOn();
+    void lastRemovedActionDisablesTheButton();
+    void actionIsFoundByItsWholeText();
+    void clearedActionsAreDeleted();
+    void actionsAfterClearingWork();
+    void withoutMenuNothingHappens();
+    void tabIsMadeUnclosableAndBack();
+    void closableOutsideTheTabsDoesNothing();
+    void buttonsOfBothSidesAreTreated();
+    void closableKeepsTheLock_data();
+    void closableKeepsTheLock();
+    void tabWithoutButtonsIsAccepted();
+    void readOnlyLocksAndUnlocks();
+    void readOnlyWithoutActions();
+    void readOnlyTwiceWorksOnce();
+    void unlockedTabStaysUnclosable();
+    void actionsOfALockedWidget();
+    void closeButtonCloses();
+    void iconsAreCrispAndLegible_data();
+    void iconsAreCrispAndLegible();
+
+private:
+    AddButton* button() const { return buttonOf(*m_tabs); }
+
+    std::unique_ptr<TabWidgetEx> m_tabs;
 };
 
-void TstTabWidgetEx::construction()
+void TstTabWidgetEx::init()
 {
-    QWidget parent;
-    TabWidgetEx widget(&parent);
-    QCOMPARE(widget.parentWidget(), &parent);
-    QCOMPARE(widget.objectName(), QString("JEDTabWidget"));
-    QVERIFY(widget.tabsClosable());
-    QVERIFY(widget.isMovable());
-    QCOMPARE(widget.cornerWidget(Qt::TopLeftCorner), buttonOf(widget));
-    QVERIFY(!widget.cornerWidget(Qt::TopRightCorner));
+    m_tabs = std::make_unique<TabWidgetEx>(nullptr);
 }
 
-void TstTabWidgetEx::buttonConstruction()
+void TstTabWidgetEx::cleanup()
 {
-    TabWidgetEx widget(nullptr);
-    const AddButton* const button = buttonOf(widget);
-    QVERIFY(button);
-    QCOMPARE(button->toolTip(), QString("Add Tab"));
-    QCOMPARE(button->text(), QString());
-    QVERIFY(!button->icon().pixmap(16).isNull());
-    QVERIFY(button->isFlat());
-    QVERIFY(button->menu());
-    QCOMPARE(button->menu()->objectName(), QString("AddButton_Menu"));
-    QCOMPARE(button->menu()->parent(), button);
-    QVERIFY(!button->isEnabled());
-    QVERIFY(!button->autoDefault());
-    QVERIFY(!button->isDefault());
-    QVERIFY(button->minimumWidth() > 0);
-    QCOMPARE(button->styleSheet(), QString("QPushButton::menu-indicator{ image: url(none.jpg); }"));
-    QCOMPARE(button->metaObject()->className(), "VelmoGui::TABWIDGET_INTERNAL::AddButton");
+    m_tabs.reset();
 }
 
-void TstTabWidgetEx::iconsAreCrispAndDifferent()
-{
-    const QString folder = ":/JobEditorVEPluginBase/Icons/";
-    QVector<QImage> images;
-    for (const char* name : {"add_tab_normal", "add_tab_active"}) {
-        const QImage single(folder + name + ".png");
-        const QImage twice(folder + name + "@2x.png");
-        QCOMPARE(single.size(), QSize(16, 16));
-        QCOMPARE(twice.size(), QSize(32, 32));
-        QVERIFY(single.hasAlphaChannel());
-        images.append(single);
-    }
-    QVERIFY(images[0] != images[1]);
-    // Middle grey and green can be told from a light and from a dark ground.
-    for (const QImage& image : qAsConst(images)) {
-        const int grey = qGray(image.pixel(2, 8));
-        QVERIFY2(grey > 60 && grey < 180, qPrintable(QString::number(grey)));
-    }
-}
-
-void TstTabWidgetEx::signalIsAsPluginsKnowIt()
+void TstTabWidgetEx::classesAreKnownToQt()
 {
     const QMetaObject& meta = TabWidgetEx::staticMetaObject;
     QCOMPARE(meta.className(), "VelmoGui::TabWidgetEx");
+    QCOMPARE(meta.superClass(), &QTabWidget::staticMetaObject);
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
-    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("si_addTab(QString)"));
+    const QMetaMethod told = meta.method(meta.methodOffset());
+    QCOMPARE(told.methodSignature(), QByteArray("si_addTab(QString)"));
+    QCOMPARE(told.methodType(), QMetaMethod::Signal);
+    QVERIFY((std::is_base_of<QPushButton, AddButton>::value));
+    QCOMPARE(AddButton::staticMetaObject.className(), "VelmoGui::TABWIDGET_INTERNAL::AddButton");
 }
 
-void TstTabWidgetEx::entriesAreSorted()
+void TstTabWidgetEx::freshWidget()
 {
-    TabWidgetEx widget(nullptr);
-    widget.appendAddAction("B", false);
-    widget.appendAddAction("A", true);
-    widget.appendAddAction("C", false);
-    QCOMPARE(entriesOf(widget), QStringList({"A", "B", "C"}));
-    widget.appendAddAction("a", true);
-    QCOMPARE(entriesOf(widget), QStringList({"A", "B", "C", "a"}));
-    widget.appendAddAction("B", true);
-    QCOMPARE(entriesOf(widget), QStringList({"A", "B", "B", "C", "a"}));
-    widget.appendAddAction("A", false);
-    // In front of the first that is greater, whatever stands behind it.
-    widget.appendAddAction("AA", true);
-    QCOMPARE(entriesOf(widget), QStringList({"A", "AA", "B", "B", "C", "a", "A"}));
+    QCOMPARE(m_tabs->objectName(), QString("JEDTabWidget"));
+    QVERIFY(m_tabs->tabsClosable());
+    QVERIFY(m_tabs->isMovable());
+    QCOMPARE(m_tabs->count(), 0);
+    QVERIFY(button());
+    QCOMPARE(m_tabs->cornerWidget(Qt::TopLeftCorner), button());
+    QVERIFY(!m_tabs->cornerWidget(Qt::TopRightCorner));
+    QVERIFY(!m_tabs->parentWidget());
+
+    QWidget parent;
+    QCOMPARE((new TabWidgetEx(&parent))->parentWidget(), &parent);
 }
 
-void TstTabWidgetEx::entryHasItsIcon()
+void TstTabWidgetEx::freshButton()
 {
-    TabWidgetEx widget(nullptr);
-    QPixmap pixmap(16, 16);
-    pixmap.fill(Qt::red);
-    widget.appendAddAction("with", QIcon(pixmap), true);
-    widget.appendAddAction("without", true);
-    const QList<QAction*> actions = buttonOf(widget)->menu()->actions();
-    QVERIFY(!actions[0]->icon().isNull());
-    QVERIFY(actions[1]->icon().isNull());
-    QCOMPARE(actions[0]->parent(), buttonOf(widget)->menu());
+    QCOMPARE(button()->toolTip(), QString("Add Tab"));
+    QCOMPARE(button()->accessibleName(), QString("Add Tab"));
+    QCOMPARE(shownIcon(button()), QString("normal"));
+    QCOMPARE(button()->text(), QString());
+    QVERIFY(button()->isFlat());
+    QVERIFY(menuOf(*m_tabs));
+    QCOMPARE(menuOf(*m_tabs)->objectName(), QString("AddButton_Menu"));
+    QCOMPARE(menuOf(*m_tabs)->parent(), button());
+    QVERIFY(menuOf(*m_tabs)->isEmpty());
+    QVERIFY(!button()->isEnabled());
+    QVERIFY(button()->minimumWidth() >= 16 && button()->minimumHeight() >= 16);
+    QVERIFY(!button()->autoDefault());
+    QVERIFY(!button()->isDefault());
+    QCOMPARE(button()->styleSheet(), QString("QPushButton::menu-indicator{ image: url(none.jpg); }"));
+    m_tabs->show();
+    QVERIFY(button()->isVisible());
 }
 
-void TstTabWidgetEx::firstEntryEnablesTheButton()
+void TstTabWidgetEx::buttonShowsTheActiveIconUnderTheMouse()
 {
-    TabWidgetEx widget(nullptr);
-    widget.appendAddAction("A", false);
-    QVERIFY(buttonOf(widget)->isEnabled());
+    m_tabs->appendAddAction("A", false);
+    enter(button());
+    QCOMPARE(shownIcon(button()), QString("active"));
+    leave(button());
+    QCOMPARE(shownIcon(button()), QString("normal"));
 }
 
-void TstTabWidgetEx::chosenEntryIsTold()
+void TstTabWidgetEx::disabledButtonKeepsTheNormalIcon()
 {
-    TabWidgetEx widget(nullptr);
-    widget.appendAddAction("Scan && more", false);
-    widget.appendAddAction("FFT", true);
-    QSignalSpy added(&widget, SIGNAL(si_addTab(QString)));
-    for (QAction* action : buttonOf(widget)->menu()->actions())
-        action->trigger();
-    QCOMPARE(added.size(), 2);
-    QCOMPARE(added[0][0].toString(), QString("FFT"));
-    QCOMPARE(added[1][0].toString(), QString("Scan && more"));
-    QCOMPARE(widget.count(), 0);
+    enter(button());
+    QCOMPARE(shownIcon(button()), QString("normal"));
+    leave(button());
+    QCOMPARE(shownIcon(button()), QString("normal"));
 }
 
-void TstTabWidgetEx::renamedEntryTellsItsFirstText()
+void TstTabWidgetEx::disabledMeanwhileTheButtonGetsTheNormalIcon()
 {
-    TabWidgetEx widget(nullptr);
-    widget.appendAddAction("old", false);
-    QSignalSpy added(&widget, SIGNAL(si_addTab(QString)));
-    QAction* const action = buttonOf(widget)->menu()->actions().first();
-    action->setText("new");
-    action->trigger();
-    QCOMPARE(added[0][0].toString(), QString("old"));
+    m_tabs->appendAddAction("A", false);
+    enter(button());
+    m_tabs->clearAddActions();
+    leave(button());
+    QCOMPARE(shownIcon(button()), QString("normal"));
 }
 
-void TstTabWidgetEx::entriesAreRemoved()
+void TstTabWidgetEx::actionsAreInserted_data()
 {
-    TabWidgetEx widget(nullptr);
-    for (const char* text : {"A", "B", "A"})
-        widget.appendAddAction(text, false);
-    QVERIFY(widget.hasAddAction("A"));
-    QVERIFY(!widget.hasAddAction("a"));
-    widget.removeAddAction("A");
-    QCOMPARE(entriesOf(widget), QStringList({"B"}));
-    QVERIFY(!widget.hasAddAction("A"));
-    QVERIFY(buttonOf(widget)->isEnabled());
-    widget.removeAddAction("unknown");
-    QVERIFY(buttonOf(widget)->isEnabled());
-    widget.removeAddAction("B");
-    QVERIFY(!buttonOf(widget)->isEnabled());
+    QTest::addColumn<QStringList>("texts"); // those with a "+" are sorted in
+    QTest::addColumn<QString>("order");
+    QTest::newRow("one") << QStringList({"A"}) << "A";
+    QTest::newRow("sorted into an empty menu") << QStringList({"+A"}) << "A";
+    QTest::newRow("as they come") << QStringList({"C", "A", "B"}) << "C A B";
+    QTest::newRow("sorted before the greater") << QStringList({"B", "+A", "C"}) << "A B C";
+    QTest::newRow("small letters after capitals") << QStringList({"B", "+A", "C", "+a"}) << "A B C a";
+    QTest::newRow("before the first that is greater") << QStringList({"C", "A", "D", "+B"}) << "B C A D";
+    QTest::newRow("equal texts keep their order") << QStringList({"A", "C", "+A", "+B"}) << "A A B C";
+    QTest::newRow("part of a text") << QStringList({"AB", "+A", "+ABC"}) << "A AB ABC";
+    QTest::newRow("code units") << QStringList({QString::fromUtf8("Ä"), "+Z"}) << QString::fromUtf8("Z Ä");
 }
 
-void TstTabWidgetEx::removedActionLivesOn()
+void TstTabWidgetEx::actionsAreInserted()
 {
-    TabWidgetEx widget(nullptr);
-    widget.appendAddAction("A", false);
-    const QPointer<QAction> action = buttonOf(widget)->menu()->actions().first();
-    QSignalSpy added(&widget, SIGNAL(si_addTab(QString)));
-    widget.removeAddAction("A");
-    QVERIFY(action);
-    action->trigger();
-    QCOMPARE(added.size(), 0);
+    QFETCH(QStringList, texts);
+    QFETCH(QString, order);
+    for (const QString& text : texts) {
+        const bool sorted = text.startsWith('+');
+        m_tabs->appendAddAction(sorted ? text.mid(1) : text, sorted);
+    }
+    QCOMPARE(actionsOf(*m_tabs), order);
+    for (const QAction* action : menuOf(*m_tabs)->actions())
+        QCOMPARE(action->parent(), menuOf(*m_tabs));
+
+    // With an icon nothing is different.
+    TabWidgetEx other(nullptr);
+    for (const QString& text : texts) {
+        const bool sorted = text.startsWith('+');
+        other.appendAddAction(sorted ? text.mid(1) : text, QIcon(NORMAL_ICON), sorted);
+    }
+    QCOMPARE(actionsOf(other), order);
 }
 
-void TstTabWidgetEx::allEntriesAreRemoved()
+void TstTabWidgetEx::actionsHaveTheirIcon()
 {
-    TabWidgetEx widget(nullptr);
-    widget.appendAddAction("A", false);
-    widget.appendAddAction("B", false);
-    const QPointer<QAction> action = buttonOf(widget)->menu()->actions().first();
-    widget.clearAddActions();
-    QCOMPARE(entriesOf(widget), QStringList());
-    QVERIFY(!action);
-    QVERIFY(!buttonOf(widget)->isEnabled());
+    m_tabs->appendAddAction("with", QIcon(ACTIVE_ICON), false);
+    m_tabs->appendAddAction("without", false);
+    QCOMPARE(action(*m_tabs, "with")->icon().pixmap(16).toImage(), QIcon(ACTIVE_ICON).pixmap(16).toImage());
+    QVERIFY(action(*m_tabs, "without")->icon().isNull());
 }
 
-void TstTabWidgetEx::closeButtonIsHidden()
+void TstTabWidgetEx::firstActionEnablesTheButton()
 {
-    TabWidgetEx widget(nullptr);
-    widget.addTab(new QLabel("1"), "one");
-    widget.addTab(new QLabel("2"), "two");
-    const QSize before = closeButton(widget, 0)->size();
-    const int width = widget.tabBar()->tabRect(0).width();
-    widget.setTabClosable(0, false);
-    QCOMPARE(closeButton(widget, 0)->size(), QSize(0, 0));
-    QCOMPARE(closeButton(widget, 1)->size(), before);
-    QVERIFY(widget.tabBar()->tabRect(0).width() < width);
-    QCOMPARE(widget.tabText(0), QString("one"));
-    widget.setTabClosable(0, true);
-    QCOMPARE(closeButton(widget, 0)->size(), closeButton(widget, 0)->sizeHint());
-    QCOMPARE(widget.tabBar()->tabRect(0).width(), width);
+    m_tabs->appendAddAction("A", true);
+    QVERIFY(button()->isEnabled());
+    m_tabs->appendAddAction("B", true);
+    QVERIFY(button()->isEnabled());
 }
 
-void TstTabWidgetEx::closeButtonOfNoTab()
+void TstTabWidgetEx::chosenActionIsTold()
 {
-    TabWidgetEx widget(nullptr);
-    widget.addTab(new QLabel("1"), "one");
-    const QSize before = closeButton(widget, 0)->size();
-    widget.setTabClosable(-1, false);
-    widget.setTabClosable(1, false);
-    QCOMPARE(closeButton(widget, 0)->size(), before);
+    const QStringList texts = {"Scan", "scan", "A & B", " blank ", ""};
+    for (const QString& text : texts)
+        m_tabs->appendAddAction(text, false);
+    QSignalSpy told(m_tabs.get(), SIGNAL(si_addTab(QString)));
+    for (const QString& text : texts) {
+        action(*m_tabs, text)->trigger();
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.takeFirst().value(0).toString(), text);
+    }
+    QCOMPARE(m_tabs->count(), 0);
 }
 
-void TstTabWidgetEx::readOnlyDisables()
+void TstTabWidgetEx::renamedActionTellsItsFirstText()
 {
-    TabWidgetEx widget(nullptr);
-    widget.addTab(new QLabel("1"), "one");
-    widget.appendAddAction("A", false);
-    widget.setReadOnly(true);
-    QVERIFY(!buttonOf(widget)->isEnabled());
-    QVERIFY(!closeButton(widget, 0)->isEnabled());
-    // The second call does nothing.
-    closeButton(widget, 0)->setEnabled(true);
-    buttonOf(widget)->setEnabled(true);
-    widget.setReadOnly(true);
-    QVERIFY(closeButton(widget, 0)->isEnabled());
-    QVERIFY(buttonOf(widget)->isEnabled());
-    widget.setReadOnly(false);
-    QVERIFY(buttonOf(widget)->isEnabled());
-    QVERIFY(closeButton(widget, 0)->isEnabled());
+    m_tabs->appendAddAction("old", false);
+    QSignalSpy told(m_tabs.get(), &TabWidgetEx::si_addTab);
+    QAction* renamed = action(*m_tabs, "old");
+    renamed->setText("new");
+    renamed->trigger();
+    QCOMPARE(told.value(0).value(0).toString(), QString("old"));
 }
 
-void TstTabWidgetEx::readOnlyAndCloseButtons()
+void TstTabWidgetEx::actionIsChosenInTheMenu()
 {
-    TabWidgetEx widget(nullptr);
-    widget.addTab(new QLabel("1"), "one");
-    widget.addTab(new QLabel("2"), "two");
-    widget.setTabClosable(0, false);
-    widget.setReadOnly(true);
-    widget.setTabClosable(1, false);
-    QVERIFY(!closeButton(widget, 1)->isEnabled());
-    widget.setReadOnly(false);
-    QVERIFY(closeButton(widget, 0)->isEnabled());
-    QCOMPARE(closeButton(widget, 0)->size(), QSize(0, 0));
-    QVERIFY(!buttonOf(widget)->isEnabled());
+    m_tabs->appendAddAction("A", false);
+    m_tabs->appendAddAction("B", false);
+    m_tabs->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_tabs.get()));
+    QSignalSpy told(m_tabs.get(), &TabWidgetEx::si_addTab);
+    PopupDriver driver([](QMenu* menu) {
+        menu->setActiveAction(menu->actions().value(1));
+        QTest::keyClick(menu, Qt::Key_Enter);
+    });
+    QTest::mouseClick(button(), Qt::LeftButton);
+    QTRY_COMPARE(driver.menus(), 1);
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(told.value(0).value(0).toString(), QString("B"));
 }
 
-void TstTabWidgetEx::readOnlyAndNewEntries()
+void TstTabWidgetEx::actionsOfThatTextAreRemoved()
 {
-    TabWidgetEx widget(nullptr);
-    widget.setReadOnly(true);
-    widget.appendAddAction("A", false);
-    widget.appendAddAction("B", false);
-    QVERIFY(!buttonOf(widget)->isEnabled());
-    widget.removeAddAction("A");
-    QVERIFY(!buttonOf(widget)->isEnabled());
-    widget.setReadOnly(false);
-    QVERIFY(buttonOf(widget)->isEnabled());
+    for (const char* text : {"A", "B", "A", "a", "AB", "A"})
+        m_tabs->appendAddAction(text, false);
+    m_tabs->removeAddAction("A");
+    QCOMPARE(actionsOf(*m_tabs), QString("B a AB"));
+    QVERIFY(button()->isEnabled());
+    m_tabs->removeAddAction("missing");
+    QCOMPARE(actionsOf(*m_tabs), QString("B a AB"));
+    QVERIFY(button()->isEnabled());
 }
 
-void TstTabWidgetEx::iconFollowsTheMouse()
+void TstTabWidgetEx::removedActionIsSilentAndLivesOn()
 {
-    TabWidgetEx widget(nullptr);
-    AddButton* const button = buttonOf(widget);
-    send(button, QEvent::Enter);
-    QVERIFY(!isActive(*button));
-    widget.appendAddAction("A", false);
-    send(button, QEvent::Enter);
-    QVERIFY(isActive(*button));
-    widget.clearAddActions();
-    QVERIFY(isActive(*button));
-    send(button, QEvent::Leave);
-    QVERIFY(!isActive(*button));
+    m_tabs->appendAddAction("A", false);
+    m_tabs->appendAddAction("B", false);
+    const QPointer<QAction> removed = action(*m_tabs, "A");
+    m_tabs->removeAddAction("A");
+    QVERIFY(removed);
+    QCOMPARE(removed->parent(), menuOf(*m_tabs));
+    QSignalSpy told(m_tabs.get(), &TabWidgetEx::si_addTab);
+    removed->trigger();
+    QCOMPARE(told.count(), 0);
+    action(*m_tabs, "B")->trigger();
+    QCOMPARE(told.count(), 1);
+    m_tabs.reset();
+    QVERIFY(!removed);
 }
 
-void TstTabWidgetEx::tabsWithoutCloseButtons()
+void TstTabWidgetEx::lastRemovedActionDisablesTheButton()
 {
-    TabWidgetEx widget(nullptr);
-    widget.addTab(new QLabel("1"), "one");
-    widget.setTabsClosable(false);
-    widget.setTabClosable(0, false);
-    widget.setReadOnly(true);
-    widget.setReadOnly(false);
-    QCOMPARE(widget.count(), 1);
+    m_tabs->appendAddAction("A", false);
+    m_tabs->appendAddAction("A", false);
+    m_tabs->removeAddAction("A");
+    QVERIFY(!button()->isEnabled());
+    m_tabs->appendAddAction("B", false);
+    QVERIFY(button()->isEnabled());
+}
+
+void TstTabWidgetEx::actionIsFoundByItsWholeText()
+{
+    QVERIFY(!m_tabs->hasAddAction("Scan"));
+    QVERIFY(!m_tabs->hasAddAction(""));
+    m_tabs->appendAddAction("Scan", false);
+    m_tabs->appendAddAction("Fixed", false);
+    QVERIFY(m_tabs->hasAddAction("Scan"));
+    QVERIFY(m_tabs->hasAddAction("Fixed"));
+    QVERIFY(!m_tabs->hasAddAction("scan"));
+    QVERIFY(!m_tabs->hasAddAction("Sca"));
+    QVERIFY(!m_tabs->hasAddAction("Scan "));
+    m_tabs->removeAddAction("Scan");
+    QVERIFY(!m_tabs->hasAddAction("Scan"));
+}
+
+void TstTabWidgetEx::clearedActionsAreDeleted()
+{
+    m_tabs->appendAddAction("A", false);
+    m_tabs->appendAddAction("B", false);
+    const QPointer<QAction> one = action(*m_tabs, "A");
+    const QPointer<QAction> two = action(*m_tabs, "B");
+    m_tabs->clearAddActions();
+    QVERIFY(!one && !two);
+    QVERIFY(menuOf(*m_tabs)->isEmpty());
+    QVERIFY(!button()->isEnabled());
+    QVERIFY(!m_tabs->hasAddAction("A"));
+    m_tabs->clearAddActions();
+    QVERIFY(!button()->isEnabled());
+}
+
+void TstTabWidgetEx::actionsAfterClearingWork()
+{
+    m_tabs->appendAddAction("A", false);
+    // One that is not the menu's own survives, but is told no more.
+    QAction stranger("S");
+    menuOf(*m_tabs)->addAction(&stranger);
+    m_tabs->clearAddActions();
+    QCOMPARE(stranger.text(), QString("S"));
+    m_tabs->appendAddAction("B", false);
+    QSignalSpy told(m_tabs.get(), &TabWidgetEx::si_addTab);
+    action(*m_tabs, "B")->trigger();
+    QCOMPARE(told.value(0).value(0).toString(), QString("B"));
+}
+
+void TstTabWidgetEx::withoutMenuNothingHappens()
+{
+    m_tabs->appendAddAction("A", false);
+    button()->setMenu(nullptr);
+    m_tabs->appendAddAction("B", false);
+    m_tabs->appendAddAction("C", QIcon(), true);
+    QVERIFY(!m_tabs->hasAddAction("A"));
+    QVERIFY(!m_tabs->hasAddAction("B"));
+    m_tabs->removeAddAction("A");
+    m_tabs->clearAddActions();
+    m_tabs->setReadOnly(true);
+    m_tabs->setReadOnly(false);
+    QVERIFY(!button()->isEnabled());
+}
+
+void TstTabWidgetEx::tabIsMadeUnclosableAndBack()
+{
+    m_tabs->addTab(new QWidget, "one");
+    m_tabs->addTab(new QWidget, "two");
+    m_tabs->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_tabs.get()));
+    const QSize size = closeButton(*m_tabs, 0)->size();
+    const int width = m_tabs->tabBar()->tabRect(0).width();
+    QVERIFY(!size.isEmpty());
+
+    m_tabs->setTabClosable(0, false);
+    QCOMPARE(closeButton(*m_tabs, 0)->size(), QSize(0, 0));
+    QVERIFY(closeButton(*m_tabs, 0)->isEnabled());
+    QVERIFY(!closeButton(*m_tabs, 0)->isHidden());
+    QCOMPARE(m_tabs->tabText(0), QString("one"));
+    QVERIFY(m_tabs->tabBar()->tabRect(0).width() < width);
+    QCOMPARE(closeButton(*m_tabs, 1)->size(), size);
+    QCOMPARE(m_tabs->tabBar()->tabRect(1).left(), m_tabs->tabBar()->tabRect(0).right() + 1);
+
+    m_tabs->setTabClosable(0, true);
+    QCOMPARE(closeButton(*m_tabs, 0)->size(), closeButton(*m_tabs, 0)->sizeHint());
+    QCOMPARE(closeButton(*m_tabs, 0)->size(), size);
+    QCOMPARE(m_tabs->tabBar()->tabRect(0).width(), width);
+}
+
+void TstTabWidgetEx::closableOutsideTheTabsDoesNothing()
+{
+    m_tabs->setTabClosable(0, false);
+    m_tabs->addTab(new QWidget, "one");
+    m_tabs->addTab(new QWidget, "two");
+    const QSize size = closeButton(*m_tabs, 0)->size();
+    for (const int index : {-1, 2, 3, -1000}) {
+        m_tabs->setTabClosable(index, false);
+        QCOMPARE(closeButton(*m_tabs, 0)->size(), size);
+        QCOMPARE(closeButton(*m_tabs, 1)->size(), size);
+    }
+}
+
+void TstTabWidgetEx::buttonsOfBothSidesAreTreated()
+{
+    m_tabs->addTab(new QWidget, "one");
+    auto* left = new QPushButton("own");
+    m_tabs->tabBar()->setTabButton(0, QTabBar::LeftSide, left);
+    QWidget* right = closeButton(*m_tabs, 0, QTabBar::RightSide);
+    QVERIFY(right);
+
+    m_tabs->setTabClosable(0, false);
+    QCOMPARE(left->size(), QSize(0, 0));
+    QCOMPARE(right->size(), QSize(0, 0));
+    m_tabs->setTabClosable(0, true);
+    QCOMPARE(left->size(), left->sizeHint());
+    QCOMPARE(right->size(), right->sizeHint());
+    m_tabs->setReadOnly(true);
+    QVERIFY(!left->isEnabled());
+    QVERIFY(!right->isEnabled());
+    m_tabs->setReadOnly(false);
+    QVERIFY(left->isEnabled());
+    QVERIFY(right->isEnabled());
+}
+
+void TstTabWidgetEx::closableKeepsTheLock_data()
+{
+    QTest::addColumn<bool>("closable");
+    QTest::newRow("closable") << true;
+    QTest::newRow("not closable") << false;
+}
+
+void TstTabWidgetEx::closableKeepsTheLock()
+{
+    QFETCH(bool, closable);
+    m_tabs->addTab(new QWidget, "one");
+    m_tabs->setReadOnly(true);
+    m_tabs->setTabClosable(0, closable);
+    QVERIFY(!closeButton(*m_tabs, 0)->isEnabled());
+    // Enables what somebody else has disabled, when nothing is locked.
+    m_tabs->setReadOnly(false);
+    closeButton(*m_tabs, 0)->setEnabled(false);
+    m_tabs->setTabClosable(0, closable);
+    QVERIFY(closeButton(*m_tabs, 0)->isEnabled());
+}
+
+void TstTabWidgetEx::tabWithoutButtonsIsAccepted()
+{
+    m_tabs->addTab(new QWidget, "one");
+    m_tabs->setTabsClosable(false);
+    m_tabs->setTabClosable(0, false);
+    m_tabs->setReadOnly(true);
+    QCOMPARE(m_tabs->tabText(0), QString("one"));
+    QVERIFY(!closeButton(*m_tabs, 0));
+}
+
+void TstTabWidgetEx::readOnlyLocksAndUnlocks()
+{
+    m_tabs->addTab(new QWidget, "one");
+    m_tabs->addTab(new QWidget, "two");
+    m_tabs->appendAddAction("A", false);
+    for (const bool readOnly : {true, false, true}) {
+        m_tabs->setReadOnly(readOnly);
+        QCOMPARE(closeButton(*m_tabs, 0)->isEnabled(), !readOnly);
+        QCOMPARE(closeButton(*m_tabs, 1)->isEnabled(), !readOnly);
+        QCOMPARE(button()->isEnabled(), !readOnly);
+    }
+}
+
+void TstTabWidgetEx::readOnlyWithoutActions()
+{
+    m_tabs->setReadOnly(true);
+    QVERIFY(!button()->isEnabled());
+    m_tabs->setReadOnly(false);
+    QVERIFY(!button()->isEnabled());
+}
+
+void TstTabWidgetEx::readOnlyTwiceWorksOnce()
+{
+    m_tabs->addTab(new QWidget, "one");
+    m_tabs->setReadOnly(false);
+    closeButton(*m_tabs, 0)->setEnabled(false);
+    m_tabs->setReadOnly(false);
+    QVERIFY(!closeButton(*m_tabs, 0)->isEnabled());
+    m_tabs->setReadOnly(true);
+    closeButton(*m_tabs, 0)->setEnabled(true);
+    m_tabs->setReadOnly(true);
+    QVERIFY(closeButton(*m_tabs, 0)->isEnabled());
+}
+
+void TstTabWidgetEx::unlockedTabStaysUnclosable()
+{
+    m_tabs->addTab(new QWidget, "one");
+    m_tabs->setTabClosable(0, false);
+    m_tabs->setReadOnly(true);
+    m_tabs->setReadOnly(false);
+    QVERIFY(closeButton(*m_tabs, 0)->isEnabled());
+    QCOMPARE(closeButton(*m_tabs, 0)->size(), QSize(0, 0));
+}
+
+void TstTabWidgetEx::actionsOfALockedWidget()
+{
+    m_tabs->setReadOnly(true);
+    m_tabs->appendAddAction("A", false);
+    m_tabs->appendAddAction("B", true);
+    QVERIFY(!button()->isEnabled());
+    m_tabs->removeAddAction("A");
+    QVERIFY(!button()->isEnabled());
+    m_tabs->setReadOnly(false);
+    QVERIFY(button()->isEnabled());
+}
+
+void TstTabWidgetEx::closeButtonCloses()
+{
+    m_tabs->addTab(new QWidget, "one");
+    m_tabs->addTab(new QWidget, "two");
+    m_tabs->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_tabs.get()));
+    QSignalSpy closing(m_tabs.get(), &QTabWidget::tabCloseRequested);
+    QTest::mouseClick(closeButton(*m_tabs, 1), Qt::LeftButton);
+    QCOMPARE(closing.count(), 1);
+    QCOMPARE(closing.takeFirst().value(0).toInt(), 1);
+    m_tabs->setReadOnly(true);
+    QTest::mouseClick(closeButton(*m_tabs, 1), Qt::LeftButton);
+    QCOMPARE(closing.count(), 0);
+}
+
+void TstTabWidgetEx::iconsAreCrispAndLegible_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("normal") << NORMAL_ICON;
+    QTest::newRow("active") << ACTIVE_ICON;
+}
+
+void TstTabWidgetEx::iconsAreCrispAndLegible()
+{
+    QFETCH(QString, path);
+    const QImage small(path);
+    const QImage large(QString(path).replace(".png", "@2x.png"));
+    QCOMPARE(small.size(), QSize(16, 16));
+    QCOMPARE(large.size(), QSize(32, 32));
+
+    // What is drawn, all of it and not only an edge, stands out from a light and from a dark window.
+    for (const QImage& image : {small, large}) {
+        double onLight = 0;
+        double onDark = 0;
+        int drawn = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor colour = image.pixelColor(x, y);
+                if (colour.alpha() < 255 || colour == Qt::white)
+                    continue;
+                ++drawn;
+                onLight += contrast(colour, QColor(239, 239, 239));
+                onDark += contrast(colour, QColor(45, 45, 45));
+            }
+        }
+        QVERIFY(drawn >= image.width());
+        QVERIFY2(
+            onLight / drawn >= 3 && onDark / drawn >= 3,
+            qPrintable(QString("contrast %1 on light, %2 on dark").arg(onLight / drawn).arg(onDark / drawn)));
+    }
 }
 
 JED_TEST_MAIN(TstTabWidgetEx)
