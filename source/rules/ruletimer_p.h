@@ -10,7 +10,7 @@ namespace JEDVEPLUGIN {
 class RuleTimer : public QObject
 {
 public:
-    static const int EVENT_INTERVAL = 20; // milliseconds from one look for events to the next
+    static constexpr int EVENT_INTERVAL = 20; // milliseconds from one look for events to the next
 
     /// Starts at once.
     explicit RuleTimer(int limit);
