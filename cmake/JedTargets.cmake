@@ -6,6 +6,8 @@ include(GenerateExportHeader)
 # What "check --all" builds optimised: the slow tests and the benchmarks.
 add_custom_target(jed_slow_tests)
 add_custom_target(jed_benchmarks)
+# The GUI components, which programs load at run time.
+add_custom_target(jed_components)
 
 # jed_add_platform_library(<name> SOURCES <file>... [USES <target>...])
 # One of the libraries that stand in for the installation's. Headers are included with their folder
@@ -22,6 +24,22 @@ function(jed_add_platform_library name)
         "$<INSTALL_INTERFACE:include/jobeditorve>")
     target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE ${ARG_PRIVATE_USES})
     target_link_libraries(jed_platform INTERFACE ${name})
+endfunction()
+
+# jed_add_component(<name> LETTERS <text> HUE <number> SETS <parameter set>...)
+# A GUI component: a shared library that is loaded by its name, with the common editor for each of its sets.
+function(jed_add_component name)
+    cmake_parse_arguments(ARG "" "LETTERS;HUE" "SETS" ${ARGN})
+    list(JOIN ARG_SETS "," sets)
+    add_library(${name} MODULE "${PROJECT_SOURCE_DIR}/platform/components/component.cpp")
+    file(CONFIGURE OUTPUT ${name}/component.json CONTENT "{\"interfaceVersion\": 1}\n")
+    target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${name}")
+    target_compile_definitions(${name} PRIVATE
+        COMPONENT_SETS="${sets}" COMPONENT_LETTERS="${ARG_LETTERS}" COMPONENT_HUE=${ARG_HUE})
+    target_link_libraries(${name} PRIVATE velmogui)
+    set_target_properties(${name} PROPERTIES
+        AUTOMOC ON LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/jobeditorve/components")
+    add_dependencies(jed_components ${name})
 endfunction()
 
 # jed_add_product(<name> SOURCES <file>... USES <target>...)
@@ -59,6 +77,7 @@ function(jed_add_application name)
     target_compile_definitions(${name} PRIVATE
         JED_VERSION="${PROJECT_VERSION}" JED_EXAMPLE_INSTALLATION="${PROJECT_SOURCE_DIR}/installation")
     target_link_libraries(${name} PRIVATE ${ARG_USES})
+    add_dependencies(${name} jed_components)
 endfunction()
 
 # jed_add_test(<name> [SOURCES <file>...] [USES <target>...] [LABELS <label>...] [TIMEOUT <seconds>])

@@ -5,7 +5,7 @@
 #include <jedvepb_version.h>
 #include <QCommandLineParser>
 #include <session/installation.h>
-#include <session/suggestion.h>
+#include <jobxml/suggestion.h>
 
 namespace JedTool {
 
@@ -194,7 +194,7 @@ QString parserFault(const QCommandLineParser& parser, const Verb& verb)
     for (const QString& name : namesOf(verb.options) + namesOf(COMMON_OPTIONS))
         known.append(QLatin1String("--") + name);
     const QString unknown = QLatin1String("--") + parser.unknownOptionNames().first();
-    return Texts::tr("there is no option %1.%2").arg(unknown, Session::suggestion(unknown, known));
+    return Texts::tr("there is no option %1.%2").arg(unknown, JobXml::suggestion(unknown, known));
 }
 
 // Null, or what is wrong with what was parsed.
@@ -273,7 +273,7 @@ ExitCode runCommandLine(const QStringList& arguments)
     const Noun* noun = findByName(nouns(), words.at(0));
     if (!noun)
         return usageError(Texts::tr("there is no noun \"%1\".%2")
-                              .arg(words.at(0), Session::suggestion(words.at(0), namesOf(nouns()))),
+                              .arg(words.at(0), JobXml::suggestion(words.at(0), namesOf(nouns()))),
                           QStringLiteral("jedtool --help"));
     if (words.size() == 1)
         return printHelp(nounHelp(*noun), helpAsked);
@@ -281,7 +281,7 @@ ExitCode runCommandLine(const QStringList& arguments)
     if (!verb)
         return usageError(
             Texts::tr("%1 has no verb \"%2\".%3")
-                .arg(words.at(0), words.at(1), Session::suggestion(words.at(1), namesOf(noun->verbs))),
+                .arg(words.at(0), words.at(1), JobXml::suggestion(words.at(1), namesOf(noun->verbs))),
             QStringLiteral("jedtool %1 --help").arg(words.at(0)));
     return helpAsked ? printHelp(verbHelp(*noun, *verb), true) : runVerb(*noun, *verb, arguments);
 }

@@ -6,7 +6,7 @@
 #include <QJsonObject>
 #include <session/installation.h>
 #include <session/resourcereport.h>
-#include <session/suggestion.h>
+#include <jobxml/suggestion.h>
 
 namespace JedTool {
 
@@ -92,7 +92,7 @@ ExitCode show(const Invocation& invocation)
     const Resources found = meant(wanted, resources);
     if (found.size() != 1) {
         const QString hint =
-            found.isEmpty() ? Session::suggestion(wanted, namesOf(resources))
+            found.isEmpty() ? JobXml::suggestion(wanted, namesOf(resources))
                             : Texts::tr(" Write one of %1.").arg(namesOf(found).join(QLatin1String(", ")));
         printError(
             Texts::tr("jedtool: no receiver of the installation is called \"%1\".%2").arg(wanted, hint));

@@ -8,7 +8,7 @@
 #include <kit/subjobtree.h>
 #include <reportlayer/elementtable.h>
 #include <session/texttable.h>
-#include <session/valuetext.h>
+#include <jobxml/valuetext.h>
 #include <values/node.h>
 
 using JEDVEPLUGIN::ResourceDescription;
@@ -55,7 +55,7 @@ QString setText(const Node& set)
         const REPORTGENERATOR::Field* field =
             PluginKit::SubjobTree::field(set.GetId() + QLatin1Char('/') + value->GetId());
         table.append(
-            {value->GetId(), Session::readableValue(*value, field), Session::readableRange(*value, field)});
+            {value->GetId(), JobXml::readableValue(*value, field), JobXml::readableRange(*value, field)});
     }
     return result + QLatin1Char('\n') + table.toText();
 }
@@ -95,7 +95,7 @@ QJsonObject setToJson(const Node& set)
             PluginKit::SubjobTree::field(set.GetId() + QLatin1Char('/') + value->GetId());
         values.append(QJsonObject{{QStringLiteral("field"), value->GetId()},
                                   {QStringLiteral("default"), value->GetText()},
-                                  {QStringLiteral("range"), Session::readableRange(*value, field)},
+                                  {QStringLiteral("range"), JobXml::readableRange(*value, field)},
                                   {QStringLiteral("unit"), field ? field->unit() : QString()}});
     }
     return {{QStringLiteral("name"), set.GetId()},

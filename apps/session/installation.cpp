@@ -23,6 +23,9 @@ bool chooseInstallation(const QString& folder, const QString& exampleFolder, QSt
     CfgCenter* const center = CfgCenter::Instance();
     center->SetDefaultInstallation(exampleFolder);
     center->SetInstallation(folder);
+    // The components that belong to the running program; the installation's own come first.
+    center->AddComponentFolder(QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                               QStringLiteral("/../lib/jobeditorve/components")));
     const QString chosen = center->GetInstallation();
     const QString iniFile = QDir(chosen).filePath(QLatin1String(CfgCenter::INI_FILE_NAME));
     if (!QFileInfo(chosen).isDir())

@@ -2,8 +2,8 @@
 
 #include "jobdocument.h"
 #include "resourcereport.h"
-#include "suggestion.h"
-#include "valuetext.h"
+#include <jobxml/suggestion.h>
+#include <jobxml/valuetext.h>
 
 #include <jedcommonhelper.h>
 #include <jobxml/job.h>
@@ -76,7 +76,7 @@ bool JobComposer::begin(const QString& type, const QString& name)
     if (JEDCommonHelper::StringToJobType(type) < 0)
         return refuse(Texts::tr("there is no type of job \"%1\"").arg(type),
                       Texts::tr("Types are %1.").arg(jobTypeNames().join(QLatin1String(", "))) +
-                          suggestion(type, jobTypeNames()));
+                          JobXml::suggestion(type, jobTypeNames()));
     m_type = type;
     m_name = name.isEmpty() ? type : name;
     m_subjobs.clear();
@@ -97,7 +97,7 @@ bool JobComposer::addSubjob(const QString& resource, const QString& startupMode)
     }
     if (!found)
         return refuse(Texts::tr("the installation offers no \"%1\"").arg(resource),
-                      Texts::tr("jedtool resources list shows what it offers.") + suggestion(resource, keys));
+                      Texts::tr("jedtool resources list shows what it offers.") + JobXml::suggestion(resource, keys));
     const QString mode = chooseStartupMode(*found, startupMode);
     if (mode.isEmpty())
         return false;
@@ -126,7 +126,7 @@ bool JobComposer::setValue(const QString& path, const QString& text)
         return false;
     const QString set = path.section(QLatin1Char('/'), 0, 0);
     QString reason;
-    if (!assignText(found, SubjobTree::field(path), text, &reason))
+    if (!JobXml::assignText(found, SubjobTree::field(path), text, &reason))
         return refuse(QStringLiteral("%1: %2").arg(path, reason));
     m_current->chosenSets.insert(set);
     return true;
@@ -142,7 +142,7 @@ ValueBase* JobComposer::value(const QString& path)
     if (!found)
         refuse(Texts::tr("%1 has no value \"%2\"").arg(resourceKey(*m_current->resource), path),
                Texts::tr("jedtool resources show %1 lists them.").arg(resourceKey(*m_current->resource)) +
-                   suggestion(path, m_current->tree.valuePaths()));
+                   JobXml::suggestion(path, m_current->tree.valuePaths()));
     return found;
 }
 
@@ -183,7 +183,7 @@ QString JobComposer::chooseStartupMode(const ResourceDescription& resource, cons
     else
         refuse(Texts::tr("%1 does not offer the start-up mode \"%2\" for a job of type %3")
                    .arg(resourceKey(resource), wanted, m_type),
-               Texts::tr("It offers %1.").arg(modes.join(QLatin1String(", "))) + suggestion(wanted, modes));
+               Texts::tr("It offers %1.").arg(modes.join(QLatin1String(", "))) + JobXml::suggestion(wanted, modes));
     return QString();
 }
 

@@ -1,6 +1,6 @@
 #include "joboutline.h"
 
-#include "quantity.h"
+#include <jobxml/quantity.h>
 
 #include <algorithm>
 #include <kit/jobplaces.h>
@@ -19,7 +19,7 @@ constexpr int VALUE_COLUMN = 36;
 QString readable(const Field& field, const QString& text)
 {
     const int number = field.enumeration ? field.enumeration->number(text) : -1;
-    return number < 0 ? Session::readableQuantity(text, field.unit()) : field.enumeration->guiText(number);
+    return number < 0 ? JobXml::readableQuantity(text, field.unit()) : field.enumeration->guiText(number);
 }
 
 QString line(int indent, const QString& label, const QString& value)

@@ -2,7 +2,7 @@
 
 #include "jobdocument.h"
 #include "resourcereport.h"
-#include "suggestion.h"
+#include <jobxml/suggestion.h>
 
 #include <jedcommonhelper.h>
 #include <jobxml/parametersettext.h>
@@ -52,7 +52,7 @@ public:
             }
         }
         warn(Texts::tr("the installation does not offer this receiver"),
-             Session::suggestion(keyOf(m_subjob), keys).trimmed());
+             JobXml::suggestion(keyOf(m_subjob), keys).trimmed());
     }
 
 private:

@@ -2,7 +2,7 @@
 
 #include "parametersets.h"
 #include "savefile.h"
-#include "suggestion.h"
+#include <jobxml/suggestion.h>
 #include "tuneritem.h"
 
 #include <jobxml/job.h>
@@ -52,7 +52,7 @@ private:
     {
         if (ParameterSetMapper::getParameterSetNames(component.Getname()).isEmpty()) {
             warn(path, Texts::tr("no component is called \"%1\"").arg(component.Getname()),
-                 Session::suggestion(component.Getname(), Session::componentNames()));
+                 JobXml::suggestion(component.Getname(), Session::componentNames()));
         }
         for (int i = 0; i < component.GetNode().size(); ++i) {
             const JobXml::Node& node = component.GetNode().at(i);
@@ -65,7 +65,7 @@ private:
     {
         if (!JobXml::findParameterSet(node.Getid())) {
             warn(path, Texts::tr("there is no parameter set \"%1\"").arg(node.Getid()),
-                 Session::suggestion(node.Getid(), Session::parameterSetNames()));
+                 JobXml::suggestion(node.Getid(), Session::parameterSetNames()));
             return;
         }
         QSet<QString> ids;
@@ -80,7 +80,7 @@ private:
             ids.insert(item.id);
             if (!field)
                 warn(itemPath, Texts::tr("%1 has no field \"%2\"").arg(node.Getid(), item.id),
-                     Session::suggestion(item.id, JobXml::ParameterSetText::fieldPaths(node.Getid())));
+                     JobXml::suggestion(item.id, JobXml::ParameterSetText::fieldPaths(node.Getid())));
             else
                 examineItem(item, *field, itemPath);
         }
@@ -167,7 +167,7 @@ Session::Finding parentFinding(const Session::ResourceFile& file,
                            .arg(description.getParentBaseResource(), description.getType());
         finding.advice =
             (Texts::tr("The resource counts as one without a parent.") +
-             Session::suggestion(description.getParentBaseResource(), basesOf(description.getType(), files)));
+             JobXml::suggestion(description.getParentBaseResource(), basesOf(description.getType(), files)));
     } else if (isInCircle(description, files)) {
         finding.text = Texts::tr("the parents of %1 lead back to it").arg(Session::resourceKey(description));
         finding.advice = Texts::tr("Take the parent out of one of the files in the circle.");
@@ -248,7 +248,7 @@ void compareResourceFiles(QList<ResourceFile>* files)
             if (!bases.contains(base))
                 file.findings.append({Finding::WARNING, file.path, file.root.line, file.root.column,
                                       Texts::tr("the connectable resource \"%1\" is not there").arg(base),
-                                      suggestion(base, bases).trimmed()});
+                                      JobXml::suggestion(base, bases).trimmed()});
         }
     }
 }

@@ -1,6 +1,6 @@
 #include "scenario.h"
 
-#include "suggestion.h"
+#include <jobxml/suggestion.h>
 
 #include <algorithm>
 #include <iterator>
@@ -91,7 +91,7 @@ QString adviceFor(const QString& word)
     if (const Verb* verb = findVerb(word))
         return Texts::tr("Write: %1").arg(Texts::tr(verb->usage));
     return Texts::tr("Verbs are %1.%2")
-        .arg(verbNames().join(QLatin1String(", ")), Session::suggestion(word, verbNames()));
+        .arg(verbNames().join(QLatin1String(", ")), JobXml::suggestion(word, verbNames()));
 }
 
 // Null if the words are a step, else what is wrong with them.

@@ -1,7 +1,7 @@
 #include "scenariorunner.h"
 
 #include "jobdocument.h"
-#include "valuetext.h"
+#include <jobxml/valuetext.h>
 
 #include <kit/subjobtree.h>
 #include <QCoreApplication>
@@ -88,7 +88,7 @@ ScenarioRunner::Outcome ScenarioRunner::expect(const QStringList& arguments)
         const ValueBase* const value = m_composer.value(what);
         if (!value)
             return refused(false);
-        const QString readable = readableValue(*value, PluginKit::SubjobTree::field(what));
+        const QString readable = JobXml::readableValue(*value, PluginKit::SubjobTree::field(what));
         found = wanted == readable ? readable : value->GetText();
     }
     if (found == wanted)

@@ -1,6 +1,6 @@
 #include "tuneritem.h"
 
-#include "quantity.h"
+#include <jobxml/quantity.h>
 
 #include <iterator>
 #include <jobxml/tunerproperties.h>
@@ -71,7 +71,7 @@ TunerItem (*const READERS[])(const JobXml::ValueItem&) = {
 
 QString shown(double number, const REPORTGENERATOR::Field& field)
 {
-    return Session::readableQuantity(ValueText::fromDouble(number), field.unit());
+    return JobXml::readableQuantity(ValueText::fromDouble(number), field.unit());
 }
 
 QString shownRange(double minimum, double maximum, const REPORTGENERATOR::Field& field)

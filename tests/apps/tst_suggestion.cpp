@@ -1,6 +1,7 @@
+#include <jobxml/suggestion.h>
 #include <session/finding.h>
-#include <session/suggestion.h>
 
+using namespace JobXml;
 using namespace Session;
 
 class TstSuggestion : public QObject

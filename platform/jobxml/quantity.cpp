@@ -1,4 +1,4 @@
-#include "quantity.h"
+#include <jobxml/quantity.h>
 
 #include <cmath>
 #include <QLocale>
@@ -53,15 +53,15 @@ QString plain(const QString& number, double value)
 }
 } // namespace
 
-namespace Session {
+namespace JobXml {
 
 bool parseQuantity(const QString& text, const QString& unit, double* number)
 {
     static const QRegularExpression FORM(
-        QStringLiteral("^([+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?)\\s*(\\S*)$"));
+        QStringLiteral("^([+-]?(?:[0-9]+[.,]?[0-9]*|[.,][0-9]+)(?:[eE][+-]?[0-9]+)?)\\s*(\\S*)$"));
     const QRegularExpressionMatch match = FORM.match(text.trimmed());
     const double factor = match.hasMatch() ? factorOf(match.captured(2), unit) : 0;
-    const double result = match.captured(1).toDouble() * factor;
+    const double result = match.captured(1).replace(QLatin1Char(','), QLatin1Char('.')).toDouble() * factor;
     if (factor == 0 || !std::isfinite(result))
         return false;
     *number = result;
@@ -119,4 +119,4 @@ QStringList unitsFor(const QString& unit)
     return result;
 }
 
-} // namespace Session
+} // namespace JobXml

@@ -1,6 +1,6 @@
-#include <session/quantity.h>
+#include <jobxml/quantity.h>
 
-using namespace Session;
+using namespace JobXml;
 
 class TstQuantity : public QObject
 {
@@ -72,9 +72,10 @@ void TstQuantity::numbers_data()
     QTest::newRow("case counts") << "5mhz"
                                  << "Hz"
                                  << "none";
-    QTest::newRow("comma") << "145,5"
-                           << "Hz"
-                           << "none";
+    QTest::newRow("comma") << "145,5" << "" << "145.5";
+    QTest::newRow("comma, prefix and unit") << "145,5 MHz" << "Hz" << "145500000";
+    QTest::newRow("grouped digits") << "1,234,567" << "" << "none";
+    QTest::newRow("comma and point") << "1,234.5" << "" << "none";
     QTest::newRow("empty") << ""
                            << "Hz"
                            << "none";

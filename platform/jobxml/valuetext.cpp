@@ -1,7 +1,7 @@
-#include "valuetext.h"
+#include <jobxml/valuetext.h>
 
-#include "quantity.h"
-#include "suggestion.h"
+#include <jobxml/quantity.h>
+#include <jobxml/suggestion.h>
 
 #include <algorithm>
 #include <QCoreApplication>
@@ -29,7 +29,7 @@ const Truth TRUTHS[] = {
 
 class Texts
 {
-    Q_DECLARE_TR_FUNCTIONS(Session::ValueText)
+    Q_DECLARE_TR_FUNCTIONS(JobXml::ValueText)
 };
 
 QString unitOf(const Field* field)
@@ -65,7 +65,7 @@ Range rangeOf(const ValueBase& value, const Field* field)
 QString rangeText(const Range& range, const QString& unit)
 {
     const auto readable = [&unit](double bound) {
-        return Session::readableQuantity(ValueText::fromDouble(bound), unit);
+        return JobXml::readableQuantity(ValueText::fromDouble(bound), unit);
     };
     return QStringLiteral("%1 … %2").arg(readable(range.minimum), readable(range.maximum));
 }
@@ -81,11 +81,11 @@ bool assignNumber(ValueBase* value, const Field* field, const QString& text, QSt
     qint64 whole = 0;
     double number = 0;
     const bool wantsWhole = isWhole(*value);
-    if (wantsWhole ? !Session::parseWholeQuantity(text, unit, &whole)
-                   : !Session::parseQuantity(text, unit, &number)) {
+    if (wantsWhole ? !JobXml::parseWholeQuantity(text, unit, &whole)
+                   : !JobXml::parseQuantity(text, unit, &number)) {
         const QString kind =
             wantsWhole ? Texts::tr("\"%1\" is no whole number") : Texts::tr("\"%1\" is no number");
-        const QString units = Session::unitsFor(unit).join(QLatin1String(", "));
+        const QString units = JobXml::unitsFor(unit).join(QLatin1String(", "));
         return refuse(reason,
                       kind.arg(text) + (units.isEmpty() ? QString() : Texts::tr(" in %1").arg(units)));
     }
@@ -93,7 +93,7 @@ bool assignNumber(ValueBase* value, const Field* field, const QString& text, QSt
     const double size = wantsWhole ? double(whole) : number;
     if (size < range.minimum || size > range.maximum)
         return refuse(reason, Texts::tr("%1 is outside %2")
-                                  .arg(Session::readableQuantity(ValueText::fromDouble(size), unit),
+                                  .arg(JobXml::readableQuantity(ValueText::fromDouble(size), unit),
                                        rangeText(range, unit)));
     return value->SetText(wantsWhole ? QString::number(whole) : ValueText::fromDouble(number));
 }
@@ -128,16 +128,16 @@ bool assignSelection(ValueSelection* selection, const Field* field, const QStrin
         return true;
     double number = 0;
     const bool isNumber =
-        !(field && field->enumeration) && Session::parseQuantity(text, unitOf(field), &number);
+        !(field && field->enumeration) && JobXml::parseQuantity(text, unitOf(field), &number);
     for (int i = 0; isNumber && i < selection->GetItemCount(); ++i) {
         if (selection->GetItem(i)->GetValue() == number)
             return selection->SelectIndex(i);
     }
     const QStringList names = itemNames(*selection);
     return refuse(reason, Texts::tr("\"%1\" is none of %2").arg(text, names.join(QLatin1String(", "))) +
-                              (Session::nearest(text, names).isNull()
+                              (JobXml::nearest(text, names).isNull()
                                    ? QString()
-                                   : QLatin1Char('.') + Session::suggestion(text, names)));
+                                   : QLatin1Char('.') + JobXml::suggestion(text, names)));
 }
 
 bool assignList(StringList* list, const QString& text)
@@ -159,7 +159,7 @@ QString readableList(const StringList& list)
 }
 } // namespace
 
-namespace Session {
+namespace JobXml {
 
 bool assignText(ValueBase* value, const Field* field, const QString& text, QString* reason)
 {
@@ -194,4 +194,4 @@ QString readableRange(const ValueBase& value, const Field* field)
     return QString();
 }
 
-} // namespace Session
+} // namespace JobXml

@@ -1,4 +1,4 @@
-#include "suggestion.h"
+#include <jobxml/suggestion.h>
 
 #include <algorithm>
 #include <QCoreApplication>
@@ -27,7 +27,7 @@ int distance(const QString& from, const QString& to)
 }
 } // namespace
 
-namespace Session {
+namespace JobXml {
 
 QString nearest(const QString& word, const QStringList& candidates)
 {
@@ -52,7 +52,7 @@ QString suggestion(const QString& word, const QStringList& candidates)
     const QString candidate = nearest(word, candidates);
     if (candidate.isNull())
         return QString();
-    return QCoreApplication::translate("Session::Suggestion", " Did you mean \"%1\"?").arg(candidate);
+    return QCoreApplication::translate("JobXml::Suggestion", " Did you mean \"%1\"?").arg(candidate);
 }
 
-} // namespace Session
+} // namespace JobXml

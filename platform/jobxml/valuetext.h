@@ -1,5 +1,6 @@
 #pragma once
 
+#include <jobxml/jobxml_export.h>
 #include <QString>
 
 class ValueBase;
@@ -8,19 +9,20 @@ struct Field;
 }
 
 /// Values of the value tree as people write and read them.
-namespace Session {
+namespace JobXml {
 
 /// Gives a value what a text says: numbers with an optional unit, true/false, yes/no or on/off, an item of a selection
 /// by its name or by what the user is shown for it, list items between commas. Nothing is clamped.
 /// \param field   the field that the value stands for: its unit, range and names count too; may be null
 /// \param reason  receives why the text was refused, a part of a sentence; may not be null
 /// \return false, with the value as it was, if the text does not fit
-bool assignText(ValueBase* value, const REPORTGENERATOR::Field* field, const QString& text, QString* reason);
+JOBXML_EXPORT bool assignText(ValueBase* value, const REPORTGENERATOR::Field* field, const QString& text,
+                              QString* reason);
 
 /// The value, with its unit, in readable form.
-QString readableValue(const ValueBase& value, const REPORTGENERATOR::Field* field);
+JOBXML_EXPORT QString readableValue(const ValueBase& value, const REPORTGENERATOR::Field* field);
 
 /// What the value may be: "9 kHz … 30 MHz", or the names that can be chosen; empty if anything goes.
-QString readableRange(const ValueBase& value, const REPORTGENERATOR::Field* field);
+JOBXML_EXPORT QString readableRange(const ValueBase& value, const REPORTGENERATOR::Field* field);
 
-} // namespace Session
+} // namespace JobXml

@@ -1,6 +1,6 @@
 #include <jobxml/parametersettext.h>
 #include <reportlayer/elementtable.h>
-#include <session/valuetext.h>
+#include <jobxml/valuetext.h>
 #include <values/value.h>
 #include <values/valuelist.h>
 #include <values/valuenumeric.h>
@@ -8,7 +8,7 @@
 
 using JobXml::ParameterSetText;
 using REPORTGENERATOR::Field;
-using Session::assignText;
+using JobXml::assignText;
 
 namespace {
 // A value of each kind with the field that it stands for.
@@ -257,8 +257,8 @@ void TstValueText::reading()
     const Sample s = sample(kind);
     QString reason;
     QVERIFY2(assignText(s.value.get(), s.field, text, &reason), qPrintable(reason));
-    QTEST(Session::readableValue(*s.value, s.field), "value");
-    QTEST(Session::readableRange(*s.value, s.field), "range");
+    QTEST(JobXml::readableValue(*s.value, s.field), "value");
+    QTEST(JobXml::readableRange(*s.value, s.field), "range");
 }
 
 QTEST_GUILESS_MAIN(TstValueText)

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <velmogui/velmogui_export.h>
+#include <zubase/observable.h>
+
+#include <functional>
+#include <QObject>
+#include <QString>
+
+class QWidget;
+class ValueBase;
+
+namespace REPORTGENERATOR {
+struct Field;
+}
+
+namespace VelmoGui {
+
+/// The control of one value: shows it, follows its changes, and sets it when the user is done. Which kind of control
+/// it is depends on the value: a check box, a combo box for what can be chosen, a spin box for whole numbers of 32
+/// bits and for reals with a step, a list, or a line of text, in which numbers take a unit ("145.5M", "145,5 MHz").
+///
+/// What does not fit is not taken: it stays in the control with the reason shown beside it, and the value keeps what it
+/// has. A value that goes away leaves a disabled control. GUI thread only.
+class VELMOGUI_EXPORT ValueControl : public QObject, public IObserver
+{
+    Q_OBJECT
+public:
+    /// \param value  not owned, may go before the control
+    /// \param field  the field that the value stands for: its unit, names and range count, too; may be null
+    /// \param name   for screen readers
+    ValueControl(ValueBase* value, const REPORTGENERATOR::Field* field, const QString& name, QWidget* parent);
+    ~ValueControl() override;
+
+    /// What the user works with, and what carries the name and the focus. Qt owns it.
+    QWidget* widget() const { return m_widget; }
+    /// Why the text in the control was not taken; empty if the value is what is shown.
+    const QString& fault() const { return m_fault; }
+
+    void Update(Observable* sender, TChangeCode code) override;
+
+signals:
+    /// The fault came, went or became another one.
+    void faultChanged(const QString& fault);
+
+private:
+    void makeCheckBox(QWidget* parent);
+    void makeComboBox(QWidget* parent);
+    void makeSpinBox(QWidget* parent);
+    void makeDoubleSpinBox(QWidget* parent);
+    void makeList(QWidget* parent);
+    void makeLineEdit(QWidget* parent);
+    void showValue();
+    void commit(const QString& text);
+    void setFault(const QString& fault);
+    QString unit() const;
+
+    ValueBase* m_value; // Not owned; null when it has gone.
+    const REPORTGENERATOR::Field* m_field;
+    QWidget* m_widget = nullptr;
+    std::function<void()> m_show; // Brings the value into the widget.
+    QString m_fault;
+    bool m_isCommitting = false;
+};
+
+} // namespace VelmoGui
