@@ -67,8 +67,10 @@ KitFactory::KitFactory(const PluginDeclaration& declaration)
     }
     // What a setting may be depends on the type of the job.
     connect(this, &JEDSubSettingFactory::currentJobTypeChanged, this, [this] {
-        for (ISubSetting* setting : qAsConst(subSettings))
+        for (ISubSetting* setting : qAsConst(subSettings)) {
+            static_cast<SubjobNode*>(setting)->showAgain();
             emit stateChanged(setting);
+        }
     });
 }
 

@@ -125,10 +125,15 @@ bool SubjobNode::setHeader(const JobXml::Subjob& header)
     if (wanted.GetXmlString(false) == m_header.GetXmlString(false))
         return true;
     m_header = wanted;
-    if (m_page)
-        m_page->load();
+    showAgain();
     tellChange();
     return true;
+}
+
+void SubjobNode::showAgain()
+{
+    if (m_page)
+        m_page->load();
 }
 
 QStringList SubjobNode::startupModes() const

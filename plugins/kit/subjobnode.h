@@ -44,6 +44,8 @@ public:
     bool setHeader(const JobXml::Subjob& header);
     /// Null if the installation does not offer it.
     const std::shared_ptr<JEDVEPLUGIN::ResourceDescription>& resource() const { return m_resource; }
+    /// Shows in the widget what is now, after something beside the header has changed.
+    void showAgain();
     /// The start-up modes that can be chosen for the receiver in a job of the present type.
     QStringList startupModes() const;
 
