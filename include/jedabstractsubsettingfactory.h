@@ -97,13 +97,13 @@ protected:
     int m_spareNumber;                          ///< 1. Keeps its place in the layout.
     QPointer<SubJobWidget> subJobWidget;        ///< Null before initialize(). Owned unless it got a parent.
     QList<std::shared_ptr<ResourceDescription>> resourceDescriptions; ///< The receivers that can be used.
-    QHash<QString, QPixmap*> settingIcons; ///< By setting or component type. Owned.
+    QHash<QString, QPixmap*> settingIcons;            ///< By setting or component type. Owned.
+    QList<VelmoGui::IGuiComponent*> loadedComponents; ///< Released through the CfgCenter.
 
 private:
     void loadComponents();
     void findParameterNode(const QString& path);
 
-    QList<VelmoGui::IGuiComponent*> loadedComponents; // Released through the CfgCenter.
     bool m_detectorVisible;
     bool m_preClassifierVisible;
 };

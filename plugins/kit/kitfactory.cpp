@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <resourcedescription.h>
 #include <values/node.h>
+#include <velmogui/iguicomponent.h>
 
 using JEDVEPLUGIN::ISubSetting;
 using JEDVEPLUGIN::Problem;
@@ -300,6 +301,17 @@ void KitFactory::tellChange(SettingNode* node)
         return;
     setModified(true);
     emit stateChanged(node);
+}
+
+QWidget* KitFactory::makeEditor(const HeldSet& set, QWidget* parent) const
+{
+    for (VelmoGui::IGuiComponent* component : loadedComponents) {
+        const bool isMeant = set.values() && component->GetParameterSets().contains(set.name());
+        if (QWidget* const editor =
+                isMeant ? component->CreateWidget(set.name(), set.values(), parent) : nullptr)
+            return editor;
+    }
+    return nullptr;
 }
 
 SubjobNode* KitFactory::addSubjob(const JobXml::Subjob& header)

@@ -69,6 +69,9 @@ public:
     Node* valueTreeNode() const { return parameterNode; }
     /// A setting was changed.
     void tellChange(SettingNode* node);
+    /// An editor of a parameter set, made by one of the components; null if none can.
+    /// \param parent  owner, may be null
+    QWidget* makeEditor(const HeldSet& set, QWidget* parent) const;
 
 protected:
     /// A new sub-job as the dialog makes it: with a name of its own and the initial nodes.

@@ -3,7 +3,9 @@
 #include <kit/settingnode.h>
 #include <kit/subjobnode.h>
 
+#include <jobxml/settings.h>
 #include <QScopedValueRollback>
+#include <QTabWidget>
 #include <QWidget>
 #include <values/node.h>
 
@@ -180,7 +182,18 @@ void SettingNode::dismantle()
 
 QWidget* SettingNode::makeWidget()
 {
-    return nullptr;
+    auto tabs = std::make_unique<QTabWidget>();
+    addEditors(tabs.get());
+    return tabs->count() > 0 ? tabs.release() : nullptr;
+}
+
+void SettingNode::addEditors(QTabWidget* tabs) const
+{
+    for (const QString& name : m_type.parameterSets) {
+        const HeldSet* const set = heldSet(name);
+        if (QWidget* const editor = set ? m_factory.makeEditor(*set, tabs) : nullptr)
+            tabs->addTab(editor, JobXml::findParameterSet(name)->label());
+    }
 }
 
 void SettingNode::tellChange()

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <vector>
 
+class QTabWidget;
 class QWidget;
 class ValueBase;
 
@@ -68,6 +69,8 @@ protected:
     void dismantle();
     /// The caller's; null if there is nothing to edit.
     virtual QWidget* makeWidget();
+    /// Adds a tab for each parameter set that can be edited.
+    void addEditors(QTabWidget* tabs) const;
     void tellChange();
 
     KitFactory& m_factory;

@@ -7,6 +7,7 @@
 #include <jobxml/parametersettext.h>
 #include <QColor>
 #include <QCoreApplication>
+#include <QTabWidget>
 #include <resourcedescription.h>
 #include <values/node.h>
 
@@ -154,8 +155,11 @@ bool SubjobNode::isMandatory(const QString& parameterSet) const
 
 QWidget* SubjobNode::makeWidget()
 {
+    auto tabs = std::make_unique<QTabWidget>();
     m_page = new SubjobPage(m_factory, *this);
-    return m_page;
+    tabs->addTab(m_page, Texts::tr("Sub-job"));
+    addEditors(tabs.get());
+    return tabs.release();
 }
 
 QList<Problem> SubjobNode::problemsOfDetectors() const

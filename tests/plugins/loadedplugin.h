@@ -18,11 +18,12 @@
 
 namespace JedTest {
 
-/// Makes the example station the installation of the process.
+/// Makes the example station the installation of the process, with the GUI components of this build.
 inline void useStation()
 {
     qunsetenv(CfgCenter::ENVIRONMENT_VARIABLE);
     CfgCenter::Instance()->SetInstallation(QStringLiteral(JED_SOURCE_DIR "/installation"));
+    CfgCenter::Instance()->AddComponentFolder(QStringLiteral(JED_COMPONENTS));
 }
 
 /// A plug-in of this build, loaded as the editor does, with its factory.
@@ -38,7 +39,7 @@ public:
         if (!plugin)
             qFatal("%s", qPrintable(m_loader.errorString()));
         m_factory.reset(plugin->createFactory());
-        TraceRecorder traces; // The names of the tuner property files; components that are not built.
+        TraceRecorder traces; // The names of the tuner property files.
         m_factory->initialize(path, nullptr);
     }
 
