@@ -5,6 +5,7 @@
 
 #include <jobxml/settings.h>
 #include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QWidget>
 #include <values/node.h>
@@ -191,8 +192,14 @@ void SettingNode::addEditors(QTabWidget* tabs) const
 {
     for (const QString& name : m_type.parameterSets) {
         const HeldSet* const set = heldSet(name);
-        if (QWidget* const editor = set ? m_factory.makeEditor(*set, tabs) : nullptr)
-            tabs->addTab(editor, JobXml::findParameterSet(name)->label());
+        QWidget* const editor = set ? m_factory.makeEditor(*set, tabs) : nullptr;
+        if (!editor)
+            continue;
+        auto* const area = new QScrollArea(tabs);
+        area->setFrameShape(QFrame::NoFrame);
+        area->setWidgetResizable(true);
+        area->setWidget(editor);
+        tabs->addTab(area, JobXml::findParameterSet(name)->label());
     }
 }
 

@@ -1,5 +1,6 @@
 #include "loadedplugin.h"
 
+#include <QLineEdit>
 #include <reportlayer/fieldaccess.h>
 #include <support/testmain.h>
 #include <values/tree.h>
@@ -28,6 +29,9 @@ private slots:
     void setsThatTheReceiverDoesNotHave();
     void valuesThatTheReceiverDoesNotTake();
     void valuesLieInTheValueTree();
+    void settingsAreEditedInTheirWidgets_data();
+    void settingsAreEditedInTheirWidgets();
+    void readOnlySettingsCannotBeEdited();
     void scansThatEndBeforeTheyBegin();
     void problemsFollowTheTypeOfTheJob();
     void subJobsAreClaimedByReceiverAndJob();
@@ -99,10 +103,12 @@ void TstSearchPlugin::newSubJobsHaveWhatTheReceiverHas()
         QCOMPARE(child->getDisplayName(), plugin->settingDisplayName(child->getSettingType()));
         QVERIFY(!child->setDisplayName("Other"));
         QVERIFY(!child->parameterSetNames().isEmpty());
+        QVERIFY(child->getPixmap());
         QCOMPARE(child->getPixmap(), plugin->getSettingIcon(child->getSettingType()));
         QVERIFY(child->isDragEnabled() && !child->isDropEnabled());
     }
-    QVERIFY(node->isDropEnabled());
+    QVERIFY(node->isDropEnabled() && node->getPixmap());
+    QVERIFY(!plugin->getSettingIcon("unknown"));
 }
 
 void TstSearchPlugin::nodesAreOfferedAsFarAsTheReceiverHasThem()
@@ -298,6 +304,67 @@ void TstSearchPlugin::valuesLieInTheValueTree()
     QVERIFY(!tree->FindNode("/Test/Search/SubJob1"));
     scanner(plugin);
     QVERIFY(tree->FindNode("/Test/Search/SubJob1/ScanSettings"));
+}
+
+void TstSearchPlugin::settingsAreEditedInTheirWidgets_data()
+{
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("Scan") << "ScanSettings"
+                          << "Range.StopFrequency"
+                          << "130.5M"
+                          << "<StopFrequency>130500000<";
+    QTest::newRow("Tuner") << "TunerSettings"
+                           << "CenterFrequency"
+                           << "121,5 MHz"
+                           << "<CenterFrequency>121500000<";
+    QTest::newRow("Spectrum") << "FFTSettings"
+                              << "Span"
+                              << "500k"
+                              << "<Span>500000<";
+}
+
+void TstSearchPlugin::settingsAreEditedInTheirWidgets()
+{
+    QFETCH(QString, set);
+    QFETCH(QString, field);
+    QFETCH(QString, typed);
+    QFETCH(QString, written);
+    const LoadedPlugin plugin("search");
+    ISubSetting* const node = below(scanner(plugin), QTest::currentDataTag());
+    plugin->setModified(false);
+    QWidget* const widget = node->getWidget();
+    QVERIFY(widget);
+    auto* const line = widget->findChild<QLineEdit*>(set + "/" + field);
+    QVERIFY(line);
+    QSignalSpy changed(plugin.get(), &JEDSubSettingFactory::stateChanged);
+    line->selectAll();
+    QTest::keyClicks(line, typed);
+    QTest::keyClick(line, Qt::Key_Return);
+    QVERIFY2(node->parameterSetText(set).contains(written), qPrintable(node->parameterSetText(set)));
+    QVERIFY(plugin->isModified());
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.at(0).at(0).value<ISubSetting*>(), node);
+    JobXml::Subjob subjob;
+    QVERIFY(plugin->writeSubjob(node->parent(), subjob, nullptr));
+    QVERIFY(subjob.GetXmlString(false).contains(written));
+    // Undo shows at once.
+    const QString shown = line->text();
+    ISubSetting* const fresh = below(scanner(plugin), QTest::currentDataTag());
+    QVERIFY(node->setParameterSetText(set, fresh->parameterSetText(set)));
+    QVERIFY(line->text() != shown);
+}
+
+void TstSearchPlugin::readOnlySettingsCannotBeEdited()
+{
+    const LoadedPlugin plugin("search");
+    ISubSetting* const scan = below(scanner(plugin), "Scan");
+    plugin->setReadOnly(true);
+    QVERIFY(!scan->getWidget()->isEnabled());
+    plugin->setReadOnly(false);
+    QVERIFY(scan->getWidget()->isEnabled());
 }
 
 void TstSearchPlugin::scansThatEndBeforeTheyBegin()
