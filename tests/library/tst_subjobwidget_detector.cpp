@@ -49,7 +49,7 @@ Situation situation(int number)
     is.on = take(2) == 1;
     is.production = take(2) == 1;
     is.online = take(2) == 1;
-    is.channels = take(2) * 3;
+    is.channels = take(2);
     is.scps = take(3);
     is.hasBases = take(2) == 1;
     return is;

@@ -108,6 +108,7 @@ private slots:
     void disabledMeanwhileTheButtonGetsTheNormalIcon();
     void actionsAreInserted_data();
     void actionsAreInserted();
+    void equalTextIsSortedBehind();
     void actionsHaveTheirIcon();
     void firstActionEnablesTheButton();
     void chosenActionIsTold();
@@ -259,6 +260,16 @@ void TstTabWidgetEx::actionsAreInserted()
         other.appendAddAction(sorted ? text.mid(1) : text, QIcon(NORMAL_ICON), sorted);
     }
     QCOMPARE(actionsOf(other), order);
+}
+
+void TstTabWidgetEx::equalTextIsSortedBehind()
+{
+    m_tabs->appendAddAction("A", false);
+    m_tabs->appendAddAction("B", false);
+    const QAction* former = action(*m_tabs, "A");
+    m_tabs->appendAddAction("A", true);
+    QCOMPARE(actionsOf(*m_tabs), QString("A A B"));
+    QCOMPARE(menuOf(*m_tabs)->actions().first(), former);
 }
 
 void TstTabWidgetEx::actionsHaveTheirIcon()
