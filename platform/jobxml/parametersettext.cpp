@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QSet>
 
-#include <cmath>
 #include <memory>
 
 namespace JobXml {
@@ -90,21 +89,12 @@ bool isText(const Field& field)
     return field.kind == FieldKind::String;
 }
 
-/// Whole numbers are written as integers are, so that fields and values for integers take them too.
-QString numberText(double number)
-{
-    const double LARGEST_EXACT = 9007199254740992.0;
-    if (std::abs(number) <= LARGEST_EXACT && number == std::trunc(number))
-        return QString::number(static_cast<qint64>(number));
-    return ValueText::fromDouble(number);
-}
-
 QString textOf(const ValueBase& value, const Field& field)
 {
     if (isNumberedSelection(value, field))
-        return numberText(static_cast<const ValueSelection&>(value).GetCurrentValue());
+        return ValueText::fromDouble(static_cast<const ValueSelection&>(value).GetCurrentValue());
     if (const auto* number = dynamic_cast<const ValueDouble*>(&value))
-        return numberText(number->GetValue());
+        return ValueText::fromDouble(number->GetValue());
     return value.GetText();
 }
 
@@ -112,7 +102,7 @@ QString textOf(const ValueBase& value, const Field& field)
 QString textOf(const IRGObject& element, const QString& path, const Field& field)
 {
     if (field.kind == FieldKind::Float || field.kind == FieldKind::Double)
-        return numberText(REPORTGENERATOR::fieldValue(element, path).toDouble());
+        return ValueText::fromDouble(REPORTGENERATOR::fieldValue(element, path).toDouble());
     return REPORTGENERATOR::fieldText(element, path);
 }
 

@@ -127,15 +127,21 @@ bool parseNumber(FieldKind kind, const QStringRef& text, FieldValue* value)
     }
 }
 
+/// The shortest text that gives the same number again; whole numbers are written in full, since few people
+/// take "1e+05" for a frequency.
 template <class Real>
 QString formatReal(Real value)
 {
+    constexpr double LARGEST_EXACT = 9007199254740992.0; // 2^53
     if (std::isnan(value))
         return QStringLiteral("NaN");
     if (std::isinf(value))
         return value > 0 ? QStringLiteral("INF") : QStringLiteral("-INF");
     char buffer[64];
-    const std::to_chars_result result = std::to_chars(buffer, buffer + sizeof buffer, value);
+    const bool isWhole = std::abs(value) <= LARGEST_EXACT && value == std::trunc(value);
+    const std::to_chars_result result =
+        isWhole ? std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed)
+                : std::to_chars(buffer, buffer + sizeof buffer, value);
     return QString::fromLatin1(buffer, static_cast<int>(result.ptr - buffer));
 }
 

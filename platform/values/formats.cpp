@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr double LARGEST_EXACT = 9007199254740992.0; // 2^53: all whole numbers up to it are doubles
+
 struct BoolName
 {
     QLatin1String text;
@@ -83,7 +85,9 @@ QString fromDouble(double value)
         return NUMBER_NAMES[2].text;
     if (std::isinf(value))
         return NUMBER_NAMES[value > 0 ? 0 : 1].text;
-    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+    const bool isWhole = std::abs(value) <= LARGEST_EXACT && value == std::trunc(value);
+    return isWhole ? QString::number(value, 'f', 0)
+                   : QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
 bool toDouble(const QString& text, double* out)

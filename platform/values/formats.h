@@ -20,7 +20,8 @@ VALUES_EXPORT QString fromBool(bool value);
 VALUES_EXPORT bool toBool(const QString& text, bool* out);
 /// Base 10. False beyond 64 bits.
 VALUES_EXPORT bool toInt64(const QString& text, __int64* out);
-/// The shortest text that gives the same number; "INF", "-INF" and "NaN" for those.
+/// The shortest text that gives the same number, whole numbers up to 2^53 without exponent; "INF", "-INF"
+/// and "NaN" for those.
 VALUES_EXPORT QString fromDouble(double value);
 VALUES_EXPORT bool toDouble(const QString& text, double* out);
 /// One line: backslash, carriage return and line feed are escaped.

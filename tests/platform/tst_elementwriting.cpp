@@ -192,6 +192,16 @@ void TstElementWriting::numbersAreWrittenAsShortAsTheyCanBeReadAgain_data()
                            << "0.33333334";
     QTest::newRow("whole") << 433920000.0 << "433920000"
                            << "433920000";
+    QTest::newRow("round") << 100000.0 << "100000"
+                           << "100000";
+    QTest::newRow("round and negative") << -3e9 << "-3000000000"
+                                        << "-3000000000";
+    QTest::newRow("largest whole one that is exact") << 9007199254740992.0 << "9007199254740992"
+                                                     << "9007199254740992";
+    QTest::newRow("next one") << 9007199254740994.0 << "9007199254740994"
+                              << "9007199254740992";
+    QTest::newRow("not quite round") << 100000.5 << "100000.5"
+                                     << "100000.5";
     QTest::newRow("zero") << 0.0 << "0"
                           << "0";
     QTest::newRow("negative zero") << -0.0 << "-0"

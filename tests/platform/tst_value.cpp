@@ -177,6 +177,9 @@ void TstValue::textForm_data()
     QTest::newRow("false") << int(BOOL) << "false";
     QTest::newRow("double 0") << int(DOUBLE) << "0";
     QTest::newRow("double whole") << int(DOUBLE) << "640";
+    QTest::newRow("double round") << int(DOUBLE) << "121500000";
+    QTest::newRow("double largest whole") << int(DOUBLE) << "-9007199254740992";
+    QTest::newRow("double larger") << int(DOUBLE) << "1e+22";
     QTest::newRow("double fraction") << int(DOUBLE) << "-0.1";
     QTest::newRow("double small") << int(DOUBLE) << "2.5e-08";
     QTest::newRow("double infinite") << int(DOUBLE) << "INF";
