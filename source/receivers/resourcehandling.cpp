@@ -76,30 +76,43 @@ bool isAcceptableVersion(const QString& version)
     return version.isEmpty() || (version.toDouble(&isNumber) >= OLDEST_VERSION && isNumber);
 }
 
-/// The folder of the tuner property files as the configuration has it, with the separators of Windows.
-QString configuredTemplateFolder()
+/// Where the tuner property files are unless the installation has a folder of its own for them, with the
+/// separators of Windows.
+QString usualTemplateFolder()
 {
-    CfgCenter* const center = CfgCenter::Instance();
-    const QString folder =
-        center->GetAdminCfg(ADMINISTRATION_VIEW)->GetString(QStringLiteral("VelmoDataDir"), QString()) +
-        QStringLiteral("\\TemplateFolder\\");
-    Cfg* const jobManagement =
-        center->CreateCfg(QStringLiteral("JobManagement"), JOB_MANAGEMENT_VIEW, QString());
-    return jobManagement == nullptr ? folder
-                                    : jobManagement->GetString(QStringLiteral("TemplateFolder"), folder);
+    return CfgCenter::Instance()
+               ->GetAdminCfg(ADMINISTRATION_VIEW)
+               ->GetString(QStringLiteral("VelmoDataDir"), QString()) +
+           QStringLiteral("\\TemplateFolder\\");
+}
+
+/// The folder as the configuration has it, the usual one if that cannot be asked.
+QString configuredTemplateFolder(const QString& usual)
+{
+    try {
+        Cfg* const jobManagement =
+            CfgCenter::Instance()->CreateCfg(QStringLiteral("JobManagement"), JOB_MANAGEMENT_VIEW, QString());
+        return jobManagement == nullptr ? usual
+                                        : jobManagement->GetString(QStringLiteral("TemplateFolder"), usual);
+    } catch (const ZuException& failure) {
+        traceError(
+            TracePoints::NO_JOB_MANAGEMENT,
+            QStringLiteral("no configuration of the job management: %1").arg(failure.GetErrorReason()));
+        return usual;
+    }
 }
 
 /// The same as a folder of this system; an empty text if there is none.
 QString templateFolder()
 {
     try {
-        QString folder = configuredTemplateFolder();
+        QString folder = configuredTemplateFolder(usualTemplateFolder());
 #ifndef Q_OS_WIN
         folder.replace(QLatin1Char('\\'), QLatin1Char('/'));
 #endif
         return folder;
     } catch (const ZuException& failure) {
-        traceError({TracePoints::RESOURCE_HANDLING, __LINE__},
+        traceError(TracePoints::NO_TEMPLATE_FOLDER,
                    QStringLiteral("no folder of Tuner Property Files: %1").arg(failure.GetErrorReason()));
         return QString();
     }
@@ -114,12 +127,6 @@ void warnOfOutdatedFiles(const QDir& folder, const QStringList& files)
     QMessageBox::warning(nullptr, QCoreApplication::translate(context, "Tuner Properties Version Check"),
                          text.arg(folder.absolutePath(), files.join(QLatin1Char('\n'))), QMessageBox::Ok,
                          QMessageBox::NoButton);
-}
-
-void traceUnreadable(const QString& reason, int line)
-{
-    traceError({TracePoints::RESOURCE_HANDLING, line},
-               QStringLiteral("unable to read Tuner Properties: %1").arg(reason));
 }
 
 /// Reads one file. \return null, after a trace, if it does not open or is not valid
@@ -339,7 +346,8 @@ ResourceDescription::ResourceDescription(const QString& xml)
     } catch (const std::exception& failure) {
         reason = QString::fromUtf8(failure.what());
     }
-    traceUnreadable(reason, __LINE__);
+    traceError(TracePoints::UNREADABLE_TUNER_PROPERTIES,
+               QStringLiteral("unable to read Tuner Properties: %1").arg(reason));
     // A fault in the middle must not leave half a description behind.
     for (QString* text : {&name, &type, &baseResource, &parentBaseResource})
         *text = QString();

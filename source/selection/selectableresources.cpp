@@ -33,7 +33,7 @@ void attachToParent(const Private::ResourcePtr& resource,
         return;
     if (parentBase == base) {
         traceError(
-            {TracePoints::SELECTABLE_RESOURCE_MODEL, __LINE__},
+            TracePoints::RESOURCE_IS_ITS_OWN_PARENT,
             QStringLiteral("SelectableResourceModel::setResources() - configuration error base resource "
                            "%1 - %2 is it's own parent")
                 .arg(type, base));
@@ -43,7 +43,7 @@ void attachToParent(const Private::ResourcePtr& resource,
     const bool closesRing = !resource->children.isEmpty() && isAncestor(resource, parent);
     if (!parent || closesRing) {
         traceError(
-            {TracePoints::SELECTABLE_RESOURCE_MODEL, __LINE__},
+            TracePoints::RESOURCE_WITHOUT_ITS_PARENT,
             QStringLiteral("SelectableResourceModel::setResources() - configuration error base resource "
                            "%1 - %2 has a parent %3 which is not available")
                 .arg(type, base, parentBase));

@@ -1,5 +1,6 @@
 #include "resourcedescription.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <quilappstartup/cfgcenter.h>
 #include <reportlayer/irgobject.h>
@@ -9,8 +10,8 @@
 
 #include <dlfcn.h>
 
-// The program's own definitions of four platform operations stand in front of those of the platform's libraries:
-// each writes down that it is called, throws when it is told to, and otherwise runs the real one.
+// The program's own definitions of four platform operations stand in front of those of the platform's
+// libraries: each writes down that it is called, throws when it is told to, and otherwise runs the real one.
 
 using JEDVEPLUGIN::ResourceDescription;
 using REPORTGENERATOR::IRGObject;
@@ -81,7 +82,7 @@ private slots:
     void doesNotCheckWhatIsOutdated();
     void anExceptionWhileReadingLeavesAnInvalidDescription();
     void anExceptionWhileCheckingLeavesAnInvalidDescription();
-    void anExceptionOfTheConfigurationLeavesTheListEmpty();
+    void anExceptionOfTheConfigurationLeavesTheUsualFolder();
 
 private:
     JedTest::TraceRecorder m_traces;
@@ -117,7 +118,8 @@ void TstResourceFaults::anExceptionWhileReadingLeavesAnInvalidDescription()
 
     QVERIFY(!description.isValid());
     QVERIFY(description.getVersion().isNull());
-    QVERIFY(m_traces.take().join('\n').contains("unable to read Tuner Properties: no reading"));
+    QCOMPARE(m_traces.take(),
+             QStringList("resourcehandling:342: unable to read Tuner Properties: no reading"));
     QVERIFY(ResourceDescription(text("a")).isValid());
 }
 
@@ -129,28 +131,39 @@ void TstResourceFaults::anExceptionWhileCheckingLeavesAnInvalidDescription()
     QVERIFY(!description.isValid());
     QVERIFY(description.getName().isNull());
     QCOMPARE(description.getVersion(), QStringLiteral("1.2"));
-    QVERIFY(m_traces.take().join('\n').contains("unable to read Tuner Properties: no checking"));
+    QCOMPARE(m_traces.take(),
+             QStringList("resourcehandling:342: unable to read Tuner Properties: no checking"));
 }
 
-void TstResourceFaults::anExceptionOfTheConfigurationLeavesTheListEmpty()
+void TstResourceFaults::anExceptionOfTheConfigurationLeavesTheUsualFolder()
 {
     QTemporaryDir installation;
-    QFile file(installation.filePath("installation.ini"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[JobManagement]\nTemplateFolder = .\n");
-    file.close();
+    const auto write = [&installation](const QString& name, const QString& content) {
+        QFile file(installation.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content.toUtf8());
+    };
+    QVERIFY(QDir(installation.path()).mkpath("data/TemplateFolder"));
+    write("installation.ini", "[Administration]\nVelmoDataDir = data\n[JobManagement]\nTemplateFolder = .\n");
+    write("data/TemplateFolder/usual.xml", text("usual"));
     CfgCenter::Instance()->SetInstallation(installation.path());
 
     s_configurationThrows = true;
-    QVERIFY(ResourceDescription::readAllResourceFiles().isEmpty());
-    QCOMPARE(s_calls, QStringList({"GetAdminCfg(2)", "CreateCfg(JobManagement, 4, '')"}));
-    QVERIFY(m_traces.take().join('\n').contains("no folder of Tuner Property Files: no JobManagement for 4"));
+    const auto descriptions = ResourceDescription::readAllResourceFiles();
+    QCOMPARE(s_calls.mid(0, 2), QStringList({"GetAdminCfg(2)", "CreateCfg(JobManagement, 4, '')"}));
+    QCOMPARE(
+        m_traces.take(),
+        QStringList({"resourcehandling:356: no configuration of the job management: no JobManagement for 4",
+                     "resourcehandling:382: Reading Tuner Property File: usual.xml"}));
+    QCOMPARE(descriptions.size(), 1);
+    QCOMPARE(descriptions.first()->getName(), QString("usual"));
 
     // That was the one time.
     s_configurationThrows = false;
-    QVERIFY(ResourceDescription::readAllResourceFiles().isEmpty());
+    s_calls.clear();
+    QCOMPARE(ResourceDescription::readAllResourceFiles().size(), 1);
     QCOMPARE(m_traces.take(), QStringList());
-    QCOMPARE(s_calls.size(), 2);
+    QCOMPARE(s_calls, QStringList());
 }
 
 QTEST_GUILESS_MAIN(TstResourceFaults)

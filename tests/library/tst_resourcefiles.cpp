@@ -59,6 +59,8 @@ private:
                   .arg(QString::number(box->icon()), QString::number(box->standardButtons()),
                        QString::number(isTheOne && box->isModal()),
                        QString::number(box->parent() != nullptr)));
+        // Qt makes the one button the default when none is named.
+        print(QStringLiteral("box: default button %1").arg(box->standardButton(box->defaultButton())));
         printDescriptions("read meanwhile", ResourceDescription::readAllResourceFiles());
         box->button(QMessageBox::Ok)->click();
     }
@@ -71,7 +73,7 @@ void adapt(Descriptions descriptions)
     descriptions.append(nullptr);
 }
 
-/// One step of a reading process: "read", "adapt", "untraced", "move FROM TO".
+/// One step of a reading process: "read", "adapt", "mask BITS", "move FROM TO".
 void takeStep(const QStringList& words)
 {
     const QString step = words.value(0);
@@ -79,8 +81,8 @@ void takeStep(const QStringList& words)
         printDescriptions("read", ResourceDescription::readAllResourceFiles());
     else if (step == "adapt")
         adapt(ResourceDescription::readAllResourceFiles());
-    else if (step == "untraced")
-        ErrorHandler::Instance()->SetTraceMask(~ErrorHandler::TRACE_ERRORS);
+    else if (step == "mask")
+        ErrorHandler::Instance()->SetTraceMask(words.value(1).toUInt(nullptr, 16));
     else if (step == "move")
         print(QStringLiteral("moved: %1").arg(QFile::rename(words.value(1), words.value(2))));
 }
@@ -130,6 +132,7 @@ QStringList boxLines(const QString& folder, const QString& files, const QString&
             QStringLiteral("box: icon %1 buttons %2 modal 1 parent 0")
                 .arg(QMessageBox::Warning)
                 .arg(QMessageBox::Ok),
+            QStringLiteral("box: default button %1").arg(QMessageBox::Ok),
             "read meanwhile: " + readMeanwhile};
 }
 
@@ -156,7 +159,7 @@ private slots:
     void theSecondCallReadsNothingAndWarnsOfNothing();
     void anEmptyFolderIsReadOnceToo();
     void everyCallGivesACopyOfTheListWithTheSameDescriptions();
-    void nothingIsTracedWithoutTheErrorBit();
+    void oneBitOfTheMaskDecidesOnTraces();
 
     void theFolder_data();
     void theFolder();
@@ -190,7 +193,8 @@ void TstResourceFiles::write(const QString& name, const QByteArray& bytes)
     QCOMPARE(file.write(bytes), bytes.size());
 }
 
-/// What a process prints that takes the steps with the installation; its current folder is the installation's.
+/// What a process prints that takes the steps with the installation; its current folder is the
+/// installation's.
 QStringList TstResourceFiles::run(const QStringList& steps)
 {
     QProcess process;
@@ -399,14 +403,15 @@ void TstResourceFiles::everyCallGivesACopyOfTheListWithTheSameDescriptions()
              traces("a.xml") + traces("b.xml") + QStringList("read: Adapted/a, HT720/b"));
 }
 
-void TstResourceFiles::nothingIsTracedWithoutTheErrorBit()
+void TstResourceFiles::oneBitOfTheMaskDecidesOnTraces()
 {
     write("Templates/a.xml", tunerProperties("a").toUtf8());
     write("Templates/b.xml", tunerProperties("b", "1.0").toUtf8());
     QVERIFY(QFile::link("/dev/zero", path("Templates/c.xml")));
+    const QStringList rest = boxLines(path("Templates"), "b.xml", "HT720/a") + QStringList("read: HT720/a");
 
-    QCOMPARE(run({"untraced", "read"}),
-             boxLines(path("Templates"), "b.xml", "HT720/a") + QStringList("read: HT720/a"));
+    QCOMPARE(run({"mask ffffffdf", "read"}), rest);
+    QCOMPARE(run({"mask 20", "read"}), traces("a.xml") + traces("b.xml", 416) + traces("c.xml", 421) + rest);
 }
 
 void TstResourceFiles::theFolder_data()
