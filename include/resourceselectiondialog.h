@@ -22,9 +22,9 @@ namespace JEDVEPLUGIN {
 
 class ResourceDescription;
 
-/// Modal dialog in which a user picks the resource for a new sub-job: type, base resource, start-up mode and
-/// record location and, where a detector is offered, the detector with its options. What does not apply to the
-/// chosen type or detector is hidden. GUI thread only.
+/// Modal dialog in which a user picks the resource for a new sub-job: type, base resource, start-up mode
+/// and record location and, where a detector is offered, the detector with its options. What does not apply
+/// to the chosen type or detector is hidden. GUI thread only.
 ///
 /// Run it with exec() and read the getters after it was accepted. A dialog that was cancelled has the neutral
 /// results: no description, empty texts, false and 0. The texts of the getters are names in the job file, not
@@ -33,8 +33,8 @@ class JEDVEPB_EXPORT ResourceSelectionDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// \param resources             what there is to choose from; of several with the same type and base resource
-    ///                              the last one counts, null ones are left out
+    /// \param resources             what there is to choose from; of several with the same type and base
+    ///                              resource the last one counts, null ones are left out
     /// \param detectorOffered       whether there are fields for a detector
     /// \param detectorPreset        whether the detector is checked to begin with; of no account for types
     ///                              without detectors

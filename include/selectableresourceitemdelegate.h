@@ -6,8 +6,9 @@
 
 namespace JEDVEPLUGIN {
 
-/// Delegate for views of a SelectableResourceModel, also behind one proxy model: the spin box that edits a count
-/// goes from 0 to the maximum that the row has when editing starts. Other editors are those of the base.
+/// Delegate for views of a SelectableResourceModel, also behind one proxy model: the spin box that edits a
+/// count goes from 0 to the maximum that the row has when editing starts. Other editors are those of the
+/// base.
 class JEDVEPB_EXPORT SelectableResourceItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -12,20 +12,22 @@ namespace JEDVEPLUGIN {
 class ResourceDescription;
 class SelectableResourceModelPrivate;
 
-/// Table in which a user chooses how many instances of each resource (a receiver, a processing unit) a job shall
-/// use. GUI thread only.
+/// Table in which a user chooses how many instances of each resource (a receiver, a processing unit) a job
+/// shall use. GUI thread only.
 ///
-/// The resources form trees by their parent base resource; a row per resource, each tree in pre-order. A parent and
-/// all resources below it share the parent's quantity: the maximum of a resource is the smallest number that is
-/// left of a quantity on the way from it up to its root, the counts of all others and all reservations
-/// subtracted. It falls below 0 when these exceed a quantity. The maximum of a disabled resource is 0.
+/// The resources form trees by their parent base resource; a row per resource, each tree in pre-order. A
+/// parent and all resources below it share the parent's quantity: the maximum of a resource is the smallest
+/// number that is left of a quantity on the way from it up to its root, the counts of all others and all
+/// reservations subtracted. It falls below 0 when these exceed a quantity. The maximum of a disabled
+/// resource is 0.
 ///
-/// Column 0 "Base Resource", column 1 "Count" (editable from 0 to the maximum), column 2 "Max Count". The vertical
-/// header has a check box per row, checked while the count is at least 1. Each change may move the maxima of
-/// other rows: dataChanged() tells the whole table, headerDataChanged() the rows from the first on.
+/// Column 0 "Base Resource", column 1 "Count" (editable from 0 to the maximum), column 2 "Max Count". The
+/// vertical header has a check box per row, checked while the count is at least 1. Each change may move the
+/// maxima of other rows: dataChanged() tells the whole table, headerDataChanged() the rows from the first
+/// on.
 ///
-/// Resources are known by the description object, not by its contents. For an unknown one the getters return 0
-/// or false, the setters return false; nothing is thrown.
+/// Resources are known by the description object, not by its contents. For an unknown one the getters
+/// return 0 or false, the setters return false; nothing is thrown.
 class JEDVEPB_EXPORT SelectableResourceModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -49,9 +51,9 @@ public:
     QList<std::shared_ptr<ResourceDescription>> getSelectedResources();
     /// Those that are enabled and whose count is below a maximum of at least 1, in row order, each once.
     QList<std::shared_ptr<ResourceDescription>> getCreateableResources();
-    /// A copy of the table as a tree, for looking at: "Base Resource", "Count", "Max Count", "Reservation Count",
-    /// "Occupied" (the counts of the resource and of all below it), "Type", "Quantity", "Enabled" ("true" or
-    /// "false"). Nothing in it is editable, and it does not follow later changes.
+    /// A copy of the table as a tree, for looking at: "Base Resource", "Count", "Max Count", "Reservation
+    /// Count", "Occupied" (the counts of the resource and of all below it), "Type", "Quantity", "Enabled"
+    /// ("true" or "false"). Nothing in it is editable, and it does not follow later changes.
     /// \param parent  owner of the copy; if null the caller owns it
     QAbstractItemModel* getHierarchicalModel(QObject* parent);
 
@@ -64,13 +66,15 @@ public:
     /// Lowers the count by \p n, at most to 0; -1 lowers it to 0.
     /// \return false, with nothing changed, if that is the count that it has or is above the maximum
     bool unselectResource(std::shared_ptr<ResourceDescription> description, int n);
-    /// \return false, with nothing changed, if the count is \p n already or \p n is not within 0 to the maximum
+    /// \return false, with nothing changed, if the count is \p n already or \p n is not within 0 to the
+    ///         maximum
     bool setSelectionCount(std::shared_ptr<ResourceDescription> description, int n);
     /// \return the count; for a null description the sum of all counts
     int getSelectionCount(std::shared_ptr<ResourceDescription> description) const;
-    /// Holds back \p n instances for other purposes. A count that is above the maximum then is lowered to it, below 0
-    /// when the maximum is.
-    /// \return false, with nothing changed, if it is \p n already or not within 0 to the resource's own quantity
+    /// Holds back \p n instances for other purposes. A count that is above the maximum then is lowered to
+    /// it, below 0 when the maximum is.
+    /// \return false, with nothing changed, if it is \p n already or not within 0 to the resource's own
+    ///         quantity
     bool setReservationCount(std::shared_ptr<ResourceDescription> description, int n);
     int getReservationCount(std::shared_ptr<ResourceDescription> description) const;
     /// Sets the count to 0 and the maximum with it. The reservation stays.
@@ -84,8 +88,8 @@ public:
     /// Sets the count: column 1, Qt::EditRole, as setSelectionCount() does.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
-    /// Toggles a row by its check box (vertical, Qt::CheckStateRole). Qt::Checked makes a count of 0 a count of 1;
-    /// any other value, and Qt::Checked on a row that is checked already, makes it 0.
+    /// Toggles a row by its check box (vertical, Qt::CheckStateRole). Qt::Checked makes a count of 0 a
+    /// count of 1; any other value, and Qt::Checked on a row that is checked already, makes it 0.
     /// \return false, with nothing changed, if the maximum is below the new count or \p value is null
     bool setHeaderData(int section, Qt::Orientation orientation, const QVariant& value,
                        int role = Qt::EditRole) override;

@@ -14,9 +14,9 @@ int saturated(qint64 number);
 
 /// The resources behind the table, and the arithmetic of their counts.
 ///
-/// What the counts and reservations of a subtree have left of its root's quantity is kept for each row, so that a
-/// change costs no more than the way up: the maximum of a resource is the least that is left of it and of its
-/// ancestors, plus its own count.
+/// What the counts and reservations of a subtree have left of its root's quantity is kept for each row, so
+/// that a change costs no more than the way up: the maximum of a resource is the least that is left of it
+/// and of its ancestors, plus its own count.
 class SelectableResourceModelPrivate
 {
 public:
