@@ -4,6 +4,8 @@
 #include <kit/subjobheader.h>
 
 #include <algorithm>
+#include <QDir>
+#include <QFileInfo>
 #include <QScopedValueRollback>
 #include <resourcedescription.h>
 #include <values/node.h>
@@ -276,6 +278,12 @@ QPixmap* KitFactory::getSettingIcon(const QString& type) const
 QString KitFactory::manual() const
 {
     return m_declaration.manual.isEmpty() ? QString() : defaultManualPath(m_declaration.manual);
+}
+
+void KitFactory::initializeRuleEngine()
+{
+    const QString path = QDir(rulesDir).filePath(m_declaration.ruleFile);
+    m_ruleScript = QFileInfo(path).isFile() ? path : QString();
 }
 
 void KitFactory::initialize(const QString& path, VelmoGui::GuiComponentCommon* component)

@@ -49,6 +49,8 @@ public:
     QString description() const override;
     QPixmap* getSettingIcon(const QString& type) const override;
     QString manual() const override;
+    /// Sub-jobs that are made from now on have the rules of the declared file.
+    void initializeRuleEngine() override;
     /// Looks for the receivers first.
     void initialize(const QString& path, VelmoGui::GuiComponentCommon* component) override;
 
@@ -67,6 +69,8 @@ public:
     // For the nodes.
     /// The plug-in's node in the value tree, null if there is none.
     Node* valueTreeNode() const { return parameterNode; }
+    /// Path of the rule script, empty if there is none.
+    const QString& ruleScript() const { return m_ruleScript; }
     /// A setting was changed.
     void tellChange(SettingNode* node);
     /// An editor of a parameter set, made by one of the components; null if none can.
@@ -91,6 +95,7 @@ private:
 
     const PluginDeclaration m_declaration;
     QHash<QString, QStringList> m_childTypes; // By type; empty type: top level.
+    QString m_ruleScript;
     bool m_isModified = false;
     bool m_isMaking = false; // Nodes that are not told about yet.
 };

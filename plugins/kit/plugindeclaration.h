@@ -35,6 +35,7 @@ struct PluginDeclaration
     QString name;                      ///< as for JEDSubSettingFactory
     QString description;               ///< what it is for, in one sentence for the user
     QString manual;                    ///< file in the installation's manuals; empty: none
+    QString ruleFile;                  ///< script in the folder of rules, see SubjobRules; empty: none
     QList<JEDVE::enJOB_TYPE> jobTypes; ///< jobs that it can be used in
     QStringList resourceTypes;         ///< receivers that it can use
     QStringList requiredComponents;    ///< component types that such a receiver must have

@@ -60,6 +60,7 @@ QString SettingNode::parameterSetText(const QString& name) const
 bool SettingNode::setParameterSetText(const QString& name, const QString& xml)
 {
     HeldSet* const set = find(name);
+    const SubjobRules::Pause pause(rules());
     return set && set->setText(xml);
 }
 
@@ -148,6 +149,7 @@ void SettingNode::holdSetsOfReceiver()
 
 bool SettingNode::holdSet(const QString& name, const QString& xml)
 {
+    const SubjobRules::Pause pause(rules());
     if (HeldSet* const held = find(name))
         return held->setText(xml);
     const SubjobNode* const owner = subjob();
@@ -206,6 +208,12 @@ void SettingNode::addEditors(QTabWidget* tabs) const
 void SettingNode::tellChange()
 {
     m_factory.tellChange(this);
+}
+
+SubjobRules* SettingNode::rules()
+{
+    const SubjobNode* const owner = subjob();
+    return owner ? owner->rules() : nullptr;
 }
 
 HeldSet* SettingNode::find(const QString& name) const

@@ -16,6 +16,7 @@ namespace PluginKit {
 
 class KitFactory;
 class SubjobNode;
+class SubjobRules;
 
 /// A setting of a plug-in on this kit: carries the parameter sets of its type as far as the sub-job's receiver has
 /// them, or as far as a job file brought them along. GUI thread only.
@@ -77,6 +78,7 @@ protected:
 
 private:
     HeldSet* find(const QString& name) const;
+    SubjobRules* rules();
 
     const SettingType& m_type;
     std::vector<std::unique_ptr<HeldSet>> m_sets; // In the order of the type.

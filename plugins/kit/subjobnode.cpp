@@ -47,6 +47,8 @@ SubjobNode::SubjobNode(KitFactory& factory, const SettingType& type, const JobXm
     m_tree.build(*resource);
     for (const Node* set : m_tree.sets())
         m_defaults.insert(set->GetId(), JobXml::ParameterSetText::toText(*set));
+    if (!factory.ruleScript().isEmpty())
+        m_rules = std::make_unique<SubjobRules>(factory.ruleScript(), *m_tree.root());
 }
 
 SubjobNode::~SubjobNode()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <kit/settingnode.h>
+#include <kit/subjobrules.h>
 #include <kit/subjobtree.h>
 
 #include <jobxml/job.h>
@@ -53,6 +54,8 @@ public:
     Node* values(const QString& parameterSet) const;
     /// The text of a set with the defaults that the receiver gives it; empty if it does not have it.
     QString defaultText(const QString& parameterSet) const { return m_defaults.value(parameterSet); }
+    /// Null without rules.
+    SubjobRules* rules() const { return m_rules.get(); }
     /// Whether every receiver of this kind has the set.
     bool isMandatory(const QString& parameterSet) const;
 
@@ -65,8 +68,9 @@ private:
     JobXml::Subjob m_header;
     std::shared_ptr<JEDVEPLUGIN::ResourceDescription> m_resource;
     SubjobTree m_tree;
-    QHash<QString, QString> m_defaults; // By parameter set.
-    QPointer<SubjobPage> m_page;        // In the node's widget.
+    QHash<QString, QString> m_defaults;   // By parameter set.
+    std::unique_ptr<SubjobRules> m_rules; // Null without rules, or without values.
+    QPointer<SubjobPage> m_page;          // In the node's widget.
 };
 
 } // namespace PluginKit

@@ -20,7 +20,7 @@ QList<SettingType> settingTypes()
         {PluginKit::SUB_JOB,
          Texts::tr("Search"),
          {},
-         {"GeneralSettings", "Scan", "Spectrum", "Tuner", "DirectionFinding"},
+         {"GeneralSettings", "Scan", "Spectrum", "Tuner", "Demodulation", "DirectionFinding"},
          "ScanSettingsComponent"},
         {"GeneralSettings",
          Texts::tr("General settings"),
@@ -39,6 +39,7 @@ QList<SettingType> settingTypes()
          "TunerSettingsComponent",
          {},
          true},
+        {"Demodulation", Texts::tr("Demodulation"), {"ADemSettings"}, {}, "ADemComponent"},
         {"DirectionFinding", Texts::tr("Direction finding"), {"DF_Settings"}, {}, "DFLocateComponent"},
     };
 }
@@ -50,6 +51,7 @@ PluginKit::PluginDeclaration searchDeclaration()
     plugin.description = Texts::tr("Searches frequency ranges for signals.");
     plugin.jobTypes = {JEDVE::JOB_TYPE_SEARCH, JEDVE::JOB_TYPE_SURVEILLANCE};
     plugin.resourceTypes = QStringList{"HT720", "TRV9KScanSettings", "DirectionFinder"};
+    plugin.ruleFile = "search.js";
     plugin.types = settingTypes();
     plugin.hasDetector = true;
     plugin.hasPreClassifier = true;

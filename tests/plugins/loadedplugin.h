@@ -32,7 +32,9 @@ class LoadedPlugin
 public:
     /// \param name  "minimal"
     /// \param path  value-tree path below which its node lies
-    explicit LoadedPlugin(const QString& name, const QString& path = QStringLiteral("/Test/"))
+    /// \param rulesDir  folder of its rule scripts
+    explicit LoadedPlugin(const QString& name, const QString& path = QStringLiteral("/Test/"),
+                          const QString& rulesDir = QStringLiteral(JED_SOURCE_DIR "/installation/Rules"))
         : m_loader(QStringLiteral(JED_PLUGINS "/lib%1.so").arg(name))
     {
         auto* const plugin = qobject_cast<JEDVEPLUGIN::IJobEditorPlugin*>(m_loader.instance());
@@ -40,7 +42,9 @@ public:
             qFatal("%s", qPrintable(m_loader.errorString()));
         m_factory.reset(plugin->createFactory());
         TraceRecorder traces; // The names of the tuner property files.
+        m_factory->setRulesDir(rulesDir);
         m_factory->initialize(path, nullptr);
+        m_factory->initializeRuleEngine();
     }
 
     JEDVEPLUGIN::JEDAbstractSubSettingFactory* operator->() const { return m_factory.get(); }

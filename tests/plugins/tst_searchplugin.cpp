@@ -32,6 +32,10 @@ private slots:
     void settingsAreEditedInTheirWidgets_data();
     void settingsAreEditedInTheirWidgets();
     void readOnlySettingsCannotBeEdited();
+    void rulesFollowChanges_data();
+    void rulesFollowChanges();
+    void rulesRestWhileTextsAreTaken();
+    void withoutTheScriptThereAreNoRules();
     void scansThatEndBeforeTheyBegin();
     void problemsFollowTheTypeOfTheJob();
     void subJobsAreClaimedByReceiverAndJob();
@@ -115,8 +119,8 @@ void TstSearchPlugin::nodesAreOfferedAsFarAsTheReceiverHasThem()
 {
     const LoadedPlugin plugin("search");
     ISubSetting* const node = scanner(plugin);
-    QCOMPARE(plugin->supportedTypesOf(SUB_JOB),
-             QStringList({"GeneralSettings", "Scan", "Spectrum", "Tuner", "DirectionFinding"}));
+    QCOMPARE(plugin->supportedTypesOf(SUB_JOB), QStringList({"GeneralSettings", "Scan", "Spectrum", "Tuner",
+                                                             "Demodulation", "DirectionFinding"}));
     QVERIFY(!plugin->isAppendable(node, "Scan")); // Has one already.
     QVERIFY(!plugin->isAppendable(node, "GeneralSettings"));
     QVERIFY(!plugin->isAppendable(nullptr, "Scan"));
@@ -185,7 +189,7 @@ void TstSearchPlugin::deletedNodesTakeTheirSetsAlong()
     const LoadedPlugin plugin("search");
     const JobXml::Subjob subjob = JedTest::exampleJob("search").GetSubjob().at(1);
     ISubSetting* const node = plugin->readSubjob(subjob, nullptr);
-    QCOMPARE(typesBelow(node), QStringList({"Spectrum", "Tuner"}));
+    QCOMPARE(typesBelow(node), QStringList({"Spectrum", "Tuner", "Demodulation"}));
     QVERIFY(plugin->deleteSubSetting(below(node, "Tuner")));
     JobXml::Subjob written = subjob;
     QVERIFY(plugin->writeSubjob(node, written, nullptr));
@@ -365,6 +369,81 @@ void TstSearchPlugin::readOnlySettingsCannotBeEdited()
     QVERIFY(!scan->getWidget()->isEnabled());
     plugin->setReadOnly(false);
     QVERIFY(scan->getWidget()->isEnabled());
+}
+
+void TstSearchPlugin::rulesFollowChanges_data()
+{
+    QTest::addColumn<QString>("receiver");
+    QTest::addColumn<QString>("changed");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("followed");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("bandwidth follows step") << "TRV9KScanSettings/VUHF-1"
+                                            << "ScanSettings/Range.StepWidth"
+                                            << "12500"
+                                            << "ScanSettings/Range.Bandwidth"
+                                            << "12500";
+    QTest::newRow("bandwidth follows demodulation") << "HT720/HF-1"
+                                                    << "ADemSettings/Demodulation"
+                                                    << "CW"
+                                                    << "ADemSettings/Bandwidth"
+                                                    << "500";
+    QTest::newRow("span follows bandwidth") << "HT720/VUHF-1"
+                                            << "TunerSettings/Bandwidth"
+                                            << "10000"
+                                            << "FFTSettings/Span"
+                                            << "10000";
+    QTest::newRow("wide enough") << "HT720/VUHF-1"
+                                 << "TunerSettings/Bandwidth"
+                                 << "2000000"
+                                 << "FFTSettings/Span"
+                                 << "2000000";
+}
+
+void TstSearchPlugin::rulesFollowChanges()
+{
+    QFETCH(QString, receiver);
+    QFETCH(QString, changed);
+    QFETCH(QString, text);
+    QFETCH(QString, followed);
+    const LoadedPlugin plugin("search");
+    JedTest::answerDialog(receiver);
+    QVERIFY(plugin->createSubSettingByUser(SUB_JOB, nullptr, nullptr));
+    const QString path = "/Test/Search/SubJob1/";
+    QVERIFY(Tree::Instance()->FindByPath(path + changed)->SetText(text));
+    QTEST(Tree::Instance()->FindByPath(path + followed)->GetText(), "result");
+}
+
+void TstSearchPlugin::rulesRestWhileTextsAreTaken()
+{
+    const LoadedPlugin plugin("search");
+    ISubSetting* const scan = below(scanner(plugin), "Scan");
+    const QString before = scan->parameterSetText("ScanSettings");
+    ValueBase* const step = Tree::Instance()->FindByPath("/Test/Search/SubJob1/ScanSettings/Range.StepWidth");
+    QVERIFY(before.contains("<Bandwidth>8000<"));
+    QVERIFY(step->SetText("12500"));
+    const QString after = scan->parameterSetText("ScanSettings");
+    QVERIFY(after.contains("<Bandwidth>12500<"));
+    QVERIFY(scan->setParameterSetText("ScanSettings", before));
+    QCOMPARE(scan->parameterSetText("ScanSettings"), before);
+    // What an operator has typed against the rule stays in a copy.
+    QString typed = after;
+    typed.replace("<Bandwidth>12500<", "<Bandwidth>9000<");
+    QVERIFY(scan->setParameterSetText("ScanSettings", typed));
+    ISubSetting* const copy = plugin->duplicateSubSetting(scan->parent());
+    QCOMPARE(below(copy, "Scan")->parameterSetText("ScanSettings"), typed);
+    QVERIFY(step->SetText("25000"));
+    QVERIFY(scan->parameterSetText("ScanSettings").contains("<Bandwidth>25000<"));
+    QCOMPARE(below(copy, "Scan")->parameterSetText("ScanSettings"), typed);
+}
+
+void TstSearchPlugin::withoutTheScriptThereAreNoRules()
+{
+    const LoadedPlugin plugin("search", "/Test/", JED_SOURCE_DIR "/installation");
+    scanner(plugin);
+    const QString path = "/Test/Search/SubJob1/ScanSettings/Range.";
+    QVERIFY(Tree::Instance()->FindByPath(path + "StepWidth")->SetText("12500"));
+    QCOMPARE(Tree::Instance()->FindByPath(path + "Bandwidth")->GetText(), QString("8000"));
 }
 
 void TstSearchPlugin::scansThatEndBeforeTheyBegin()
