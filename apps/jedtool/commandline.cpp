@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <jedvepb_version.h>
+#include <jobxml/suggestion.h>
 #include <QCommandLineParser>
 #include <session/installation.h>
-#include <jobxml/suggestion.h>
 
 namespace JedTool {
 

@@ -1,12 +1,12 @@
 #include "commandline.h"
 #include "resourcetext.h"
 
+#include <jobxml/suggestion.h>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <session/installation.h>
 #include <session/resourcereport.h>
-#include <jobxml/suggestion.h>
 
 namespace JedTool {
 

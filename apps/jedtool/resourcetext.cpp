@@ -4,11 +4,11 @@
 
 #include <algorithm>
 #include <componentdescriptor.h>
+#include <jobxml/valuetext.h>
 #include <kit/jobplaces.h>
 #include <kit/subjobtree.h>
 #include <reportlayer/elementtable.h>
 #include <session/texttable.h>
-#include <jobxml/valuetext.h>
 #include <values/node.h>
 
 using JEDVEPLUGIN::ResourceDescription;

@@ -38,6 +38,11 @@ bool chooseInstallation(const QString& folder, const QString& exampleFolder, QSt
     return error->isEmpty();
 }
 
+QString installationFolder()
+{
+    return CfgCenter::Instance()->GetInstallation();
+}
+
 QString templateFolder()
 {
     CfgCenter* const center = CfgCenter::Instance();

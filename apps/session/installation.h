@@ -11,6 +11,9 @@ namespace Session {
 /// \return false if the chosen folder has no readable configuration; it is the chosen one all the same
 bool chooseInstallation(const QString& folder, const QString& exampleFolder, QString* error);
 
+/// The folder of the installation that the process works with, absolute.
+QString installationFolder();
+
 /// The folder in which the library looks for tuner property files, absolute; empty if the configuration names none.
 QString templateFolder();
 

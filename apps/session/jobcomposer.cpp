@@ -10,7 +10,6 @@
 #include <kit/jobplaces.h>
 #include <kit/subjobtree.h>
 #include <QCoreApplication>
-#include <QDateTime>
 #include <values/node.h>
 
 using JEDVEPLUGIN::JEDCommonHelper;
@@ -31,16 +30,6 @@ QStringList jobTypeNames()
     for (const char* name : JOB_TYPE_NAMES)
         result.append(QLatin1String(name));
     return result;
-}
-
-// Reproducible where the environment asks for it.
-QString timeOfMaking()
-{
-    bool isFixed = false;
-    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isFixed);
-    const QDateTime now =
-        isFixed ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC) : QDateTime::currentDateTimeUtc();
-    return now.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ssZ"));
 }
 
 // One parameter set on its way from the value tree into the job; what is lost on the way is a finding.
@@ -97,7 +86,8 @@ bool JobComposer::addSubjob(const QString& resource, const QString& startupMode)
     }
     if (!found)
         return refuse(Texts::tr("the installation offers no \"%1\"").arg(resource),
-                      Texts::tr("jedtool resources list shows what it offers.") + JobXml::suggestion(resource, keys));
+                      Texts::tr("jedtool resources list shows what it offers.") +
+                          JobXml::suggestion(resource, keys));
     const QString mode = chooseStartupMode(*found, startupMode);
     if (mode.isEmpty())
         return false;
@@ -150,17 +140,12 @@ bool JobComposer::compose(JobDocument* document, Findings* findings)
 {
     if (m_type.isEmpty())
         return refuse(Texts::tr("no job was begun"), Texts::tr("Begin with: new TYPE [NAME]"));
-    JobXml::Job job;
-    JobXml::JobInformation& information = job.GetJobInformation();
-    information.SetJobType(JEDCommonHelper::JobTypeToJobXmlType(JEDCommonHelper::StringToJobType(m_type)));
-    information.SetName(m_name);
-    information.SetCreated(timeOfMaking());
+    document->begin(JEDCommonHelper::StringToJobType(m_type), m_name);
     for (size_t i = 0; i < m_subjobs.size(); ++i) {
         const QString place =
             Texts::tr("sub-job %1, %2").arg(QString::number(i + 1), resourceKey(*m_subjobs[i]->resource));
-        job.AppendSubjob(composeSubjob(*m_subjobs[i], place, findings));
+        document->job().AppendSubjob(composeSubjob(*m_subjobs[i], place, findings));
     }
-    document->job() = job;
     return true;
 }
 
@@ -183,7 +168,8 @@ QString JobComposer::chooseStartupMode(const ResourceDescription& resource, cons
     else
         refuse(Texts::tr("%1 does not offer the start-up mode \"%2\" for a job of type %3")
                    .arg(resourceKey(resource), wanted, m_type),
-               Texts::tr("It offers %1.").arg(modes.join(QLatin1String(", "))) + JobXml::suggestion(wanted, modes));
+               Texts::tr("It offers %1.").arg(modes.join(QLatin1String(", "))) +
+                   JobXml::suggestion(wanted, modes));
     return QString();
 }
 

@@ -2,16 +2,37 @@
 
 #include "savefile.h"
 
+#include <jedcommonhelper.h>
 #include <QCoreApplication>
+#include <QDateTime>
 
 namespace {
 class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Session::JobDocument)
 };
+
+// Reproducible where the environment asks for it.
+QString timeOfMaking()
+{
+    bool isFixed = false;
+    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isFixed);
+    const QDateTime now =
+        isFixed ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC) : QDateTime::currentDateTimeUtc();
+    return now.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ssZ"));
+}
 } // namespace
 
 namespace Session {
+
+void JobDocument::begin(JEDVE::enJOB_TYPE type, const QString& name)
+{
+    *this = JobDocument();
+    JobXml::JobInformation& information = m_job.GetJobInformation();
+    information.SetJobType(JEDVEPLUGIN::JEDCommonHelper::JobTypeToJobXmlType(type));
+    information.SetName(name);
+    information.SetCreated(timeOfMaking());
+}
 
 bool JobDocument::load(const QString& path, Findings* findings)
 {

@@ -2,6 +2,7 @@
 
 #include "finding.h"
 
+#include <enjobtype.h>
 #include <jobxml/job.h>
 #include <QByteArray>
 #include <QString>
@@ -12,6 +13,9 @@ namespace Session {
 class JobDocument
 {
 public:
+    /// Makes it a new job without sub-jobs and without a file.
+    void begin(JEDVE::enJOB_TYPE type, const QString& name);
+
     /// Reads a job file. Values that do not convert are findings, but no failure: they are kept as they stand.
     /// \return false, with the document as it was, if the file cannot be read or is no job; the reason is a finding
     bool load(const QString& path, Findings* findings);

@@ -2,8 +2,8 @@
 
 #include "parametersets.h"
 #include "savefile.h"
-#include <jobxml/suggestion.h>
 #include "tuneritem.h"
+#include <jobxml/suggestion.h>
 
 #include <jobxml/job.h>
 #include <jobxml/parametersettext.h>

@@ -43,7 +43,7 @@ private:
     QString m_name;
     QHash<QString, ValueControl*> m_controls; // By field. Qt owns them.
     QHash<QString, QGridLayout*> m_groups;    // By path of the group. Qt owns them.
-    QHash<QString, QLabel*> m_marks;    // By field. Qt owns them.
+    QHash<QString, QLabel*> m_marks;          // By field. Qt owns them.
 };
 
 } // namespace VelmoGui

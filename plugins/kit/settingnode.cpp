@@ -192,6 +192,7 @@ QWidget* SettingNode::makeWidget()
 
 void SettingNode::addEditors(QTabWidget* tabs) const
 {
+    tabs->setAccessibleName(getDisplayName());
     for (const QString& name : m_type.parameterSets) {
         const HeldSet* const set = heldSet(name);
         QWidget* const editor = set ? m_factory.makeEditor(*set, tabs) : nullptr;
@@ -201,7 +202,9 @@ void SettingNode::addEditors(QTabWidget* tabs) const
         area->setFrameShape(QFrame::NoFrame);
         area->setWidgetResizable(true);
         area->setWidget(editor);
-        tabs->addTab(area, JobXml::findParameterSet(name)->label());
+        const QString label = JobXml::findParameterSet(name)->label();
+        area->setAccessibleName(label);
+        tabs->addTab(area, label);
     }
 }
 

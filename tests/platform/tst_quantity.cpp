@@ -72,10 +72,18 @@ void TstQuantity::numbers_data()
     QTest::newRow("case counts") << "5mhz"
                                  << "Hz"
                                  << "none";
-    QTest::newRow("comma") << "145,5" << "" << "145.5";
-    QTest::newRow("comma, prefix and unit") << "145,5 MHz" << "Hz" << "145500000";
-    QTest::newRow("grouped digits") << "1,234,567" << "" << "none";
-    QTest::newRow("comma and point") << "1,234.5" << "" << "none";
+    QTest::newRow("comma") << "145,5"
+                           << ""
+                           << "145.5";
+    QTest::newRow("comma, prefix and unit") << "145,5 MHz"
+                                            << "Hz"
+                                            << "145500000";
+    QTest::newRow("grouped digits") << "1,234,567"
+                                    << ""
+                                    << "none";
+    QTest::newRow("comma and point") << "1,234.5"
+                                     << ""
+                                     << "none";
     QTest::newRow("empty") << ""
                            << "Hz"
                            << "none";

@@ -1,14 +1,14 @@
 #include <jobxml/parametersettext.h>
-#include <reportlayer/elementtable.h>
 #include <jobxml/valuetext.h>
+#include <reportlayer/elementtable.h>
 #include <values/value.h>
 #include <values/valuelist.h>
 #include <values/valuenumeric.h>
 #include <values/valueselection.h>
 
+using JobXml::assignText;
 using JobXml::ParameterSetText;
 using REPORTGENERATOR::Field;
-using JobXml::assignText;
 
 namespace {
 // A value of each kind with the field that it stands for.

@@ -1,0 +1,239 @@
+#include "editorwindow.h"
+
+#include "editorpane.h"
+#include "problemspane.h"
+#include "resourcepane.h"
+#include "startpage.h"
+#include "tracepane.h"
+#include "treepane.h"
+
+#include <isubsetting.h>
+#include <jedsubsettingfactory.h>
+#include <jobxml/job.h>
+#include <QAction>
+#include <QCloseEvent>
+#include <QDir>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <session/jobsession.h>
+
+using JEDVEPLUGIN::ISubSetting;
+using Session::Findings;
+using Session::JobSession;
+
+EditorWindow::EditorWindow(Session::PluginHost* host, JobSession* session)
+    : m_host(host)
+    , m_session(session)
+    , m_watcher(new QFileSystemWatcher(this))
+    , m_pages(new QStackedWidget(this))
+    , m_startPage(new StartPage(this))
+    , m_tree(new TreePane(session, this))
+    , m_editor(new EditorPane(this))
+{
+    setObjectName(QStringLiteral("jobEditor"));
+    resize(1100, 780);
+    auto* const splitter = new QSplitter(this);
+    splitter->setObjectName(QStringLiteral("splitter"));
+    splitter->addWidget(m_tree);
+    splitter->addWidget(m_editor);
+    splitter->setStretchFactor(1, 3);
+    m_pages->addWidget(m_startPage);
+    m_pages->addWidget(splitter);
+    setCentralWidget(m_pages);
+    statusBar();
+    buildDocks();
+    buildFileMenu();
+    buildEditMenu();
+    buildViewMenu();
+    buildHelpMenu();
+
+    connect(m_startPage, &StartPage::newJobWanted, this, &EditorWindow::newJob);
+    connect(m_startPage, &StartPage::openWanted, this, &EditorWindow::openFile);
+    connect(m_tree, &TreePane::currentChanged, this, &EditorWindow::showCurrent);
+    connect(session, &JobSession::structureChanged, this, &EditorWindow::updateActions);
+    connect(session, &JobSession::settingChanged, this, &EditorWindow::updateActions);
+    connect(session->undoStack(), &QUndoStack::indexChanged, this, &EditorWindow::updateTitle);
+    connect(session->undoStack(), &QUndoStack::cleanChanged, this, &EditorWindow::updateTitle);
+    connect(m_watcher, &QFileSystemWatcher::fileChanged, this, &EditorWindow::fileChanged);
+    showStart();
+}
+
+void EditorWindow::newJob(JEDVE::enJOB_TYPE type)
+{
+    if (!askToSave())
+        return;
+    m_editor->clear();
+    m_session->begin(type, JobXml::JobInformation::GetGUIJobTypes().value(int(type)));
+    watchFile(QString());
+    showJob();
+}
+
+bool EditorWindow::openFile(const QString& path)
+{
+    if (!askToSave())
+        return false;
+    m_editor->clear();
+    Findings findings;
+    const bool isOpen = m_session->open(path, &findings);
+    if (isOpen) {
+        remember(path);
+        watchFile(path);
+        showJob();
+        m_tree->setCurrentSetting(m_session->settingAt({0}));
+    }
+    if (Session::needsAttention(findings))
+        tell(isOpen ? tr("The job was opened, but not all of it was understood.")
+                    : tr("The job could not be opened."),
+             findings);
+    return isOpen;
+}
+
+void EditorWindow::setCurrentSetting(ISubSetting* setting)
+{
+    m_tree->setCurrentSetting(setting);
+}
+
+void EditorWindow::restoreLayout()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
+    restoreState(settings.value(QStringLiteral("window/state")).toByteArray());
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event)
+{
+    if (!askToSave())
+        return event->ignore();
+    QSettings settings;
+    settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("window/state"), saveState());
+    m_editor->clear();
+    event->accept();
+}
+
+void EditorWindow::buildDocks()
+{
+    const auto add = [this](const QString& name, const QString& title, QWidget* content) {
+        auto* const dock = new QDockWidget(title, this);
+        dock->setObjectName(name);
+        dock->setWidget(content);
+        addDockWidget(Qt::BottomDockWidgetArea, dock);
+        return dock;
+    };
+    m_problems = new ProblemsPane(m_session, this);
+    QDockWidget* const problems = add(QStringLiteral("problemsDock"), tr("Problems"), m_problems);
+    QDockWidget* const receivers =
+        add(QStringLiteral("resourcesDock"), tr("Receivers"), new ResourcePane(m_session, this));
+    QDockWidget* const trace = add(QStringLiteral("traceDock"), tr("Messages"), new TracePane(this));
+    tabifyDockWidget(problems, receivers);
+    tabifyDockWidget(receivers, trace);
+    problems->raise();
+    connect(m_problems, &ProblemsPane::problemChosen, this, &EditorWindow::showProblem);
+    connect(m_problems, &ProblemsPane::countChanged, this, [problems](int count) {
+        problems->setWindowTitle(count == 0 ? tr("Problems") : tr("Problems (%1)").arg(count));
+    });
+}
+
+bool EditorWindow::saveTo(const QString& path)
+{
+    Findings findings;
+    m_watcher->removePaths(m_watcher->files());
+    const bool isSaved = m_session->save(path, &findings);
+    if (isSaved) {
+        remember(path);
+        watchFile(path);
+        statusBar()->showMessage(tr("Saved as %1").arg(QDir::toNativeSeparators(path)), 5000);
+    }
+    if (Session::needsAttention(findings))
+        tell(isSaved ? tr("The job was saved, but the file cannot hold all of it.")
+                     : tr("The job was not saved."),
+             findings);
+    updateTitle();
+    return isSaved;
+}
+
+void EditorWindow::remember(const QString& path)
+{
+    QStringList files = recentJobs();
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    files.removeAll(absolute);
+    files.prepend(absolute);
+    QSettings().setValue(QStringLiteral("recentJobs"), QStringList(files.mid(0, 8)));
+}
+
+QStringList EditorWindow::recentJobs() const
+{
+    return QSettings().value(QStringLiteral("recentJobs")).toStringList();
+}
+
+void EditorWindow::watchFile(const QString& path)
+{
+    if (!m_watcher->files().isEmpty())
+        m_watcher->removePaths(m_watcher->files());
+    if (!path.isEmpty())
+        m_watcher->addPath(path);
+}
+
+void EditorWindow::showProblem(ISubSetting* setting, const QString& parameterSet, const QString& field)
+{
+    m_tree->setCurrentSetting(setting);
+    QWidget* const editor = setting->getWidget();
+    if (!editor)
+        return;
+    QWidget* const control = editor->findChild<QWidget*>(QStringLiteral("%1/%2").arg(parameterSet, field));
+    (control ? control : editor)->setFocus(Qt::OtherFocusReason);
+}
+
+void EditorWindow::showJob()
+{
+    m_hasJob = true;
+    m_pages->setCurrentIndex(1);
+    showCurrent();
+    updateTitle();
+}
+
+void EditorWindow::showStart()
+{
+    m_hasJob = false;
+    m_startPage->setRecentJobs(recentJobs());
+    m_startPage->setExampleJobs(exampleJobs());
+    m_pages->setCurrentIndex(0);
+    updateActions();
+    updateTitle();
+}
+
+void EditorWindow::showCurrent()
+{
+    m_session->flushEdits();
+    m_session->endEditStep();
+    const int unclaimed = m_tree->currentUnclaimed();
+    m_editor->show(m_tree->currentSetting(),
+                   unclaimed >= 0
+                       ? tr("This sub-job is kept as it is. %1").arg(m_session->topLevel(unclaimed).reason)
+                       : tr("Add a setting, or select one in the tree."));
+    updateActions();
+}
+
+void EditorWindow::updateActions()
+{
+    ISubSetting* const setting = m_tree->currentSetting();
+    for (QAction* action : qAsConst(m_jobActions))
+        action->setEnabled(m_hasJob);
+    for (QAction* action : qAsConst(m_settingActions))
+        action->setEnabled(m_hasJob && setting && !setting->isReadOnly());
+}
+
+void EditorWindow::updateTitle()
+{
+    const QString name = m_session->document().job().GetJobInformation().GetName();
+    const QString path = m_session->document().path();
+    setWindowModified(m_hasJob && m_session->isModified());
+    setWindowFilePath(m_hasJob ? path : QString());
+    setWindowTitle(m_hasJob ? tr("%1[*] - Job editor").arg(path.isEmpty() ? name : QFileInfo(path).fileName())
+                            : tr("Job editor"));
+}

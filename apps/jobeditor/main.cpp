@@ -1,0 +1,47 @@
+#include <jobeditor/editorwindow.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QMessageBox>
+#include <QSettings>
+#include <session/installation.h>
+#include <session/jobsession.h>
+#include <session/pluginhost.h>
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("jobeditor"));
+    QCoreApplication::setOrganizationName(QStringLiteral("jobeditorve"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(JED_VERSION));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QCoreApplication::translate("main", "Composes jobs for radio monitoring."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const auto text = [](const char* source) { return QCoreApplication::translate("main", source); };
+    parser.addOption({QStringLiteral("installation"), text("Folder of the installation."), text("DIR")});
+    parser.addOption({QStringLiteral("plugin-dir"), text("A further folder with plug-ins."), text("DIR")});
+    parser.addOption({QStringLiteral("clean-settings"), text("Forget window places and recent jobs first.")});
+    parser.addPositionalArgument(QStringLiteral("job"), text("Job file to open."), QStringLiteral("[job]"));
+    parser.process(application);
+
+    if (parser.isSet(QStringLiteral("clean-settings")))
+        QSettings().clear();
+    QString error;
+    if (!Session::chooseInstallation(parser.value(QStringLiteral("installation")),
+                                     QStringLiteral(JED_EXAMPLE_INSTALLATION), &error))
+        QMessageBox::warning(nullptr, text("Job editor"), error);
+
+    Session::PluginHost host;
+    host.load(parser.values(QStringLiteral("plugin-dir")) + Session::PluginHost::defaultFolders());
+    Session::JobSession session(host.factories());
+    EditorWindow window(&host, &session);
+    window.restoreLayout();
+    window.show();
+    if (!parser.positionalArguments().isEmpty())
+        window.openFile(parser.positionalArguments().first());
+    return QApplication::exec();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QTreeWidget>
+
+namespace JEDVEPLUGIN {
+class ISubSetting;
+}
+namespace Session {
+class JobSession;
+}
+
+/// What is wrong with the job, one row a problem. Return or a double click leads to the field.
+class ProblemsPane : public QTreeWidget
+{
+    Q_OBJECT
+public:
+    explicit ProblemsPane(Session::JobSession* session, QWidget* parent = nullptr);
+
+    int problemCount() const { return topLevelItemCount(); }
+
+signals:
+    void problemChosen(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet, const QString& field);
+    void countChanged(int count);
+
+private:
+    void refreshSoon();
+    void refresh();
+    void collect(JEDVEPLUGIN::ISubSetting* setting, const QString& place);
+    void choose(QTreeWidgetItem* item);
+
+    Session::JobSession* m_session; // Not owned.
+    bool m_isRefreshPending = false;
+};

@@ -1,0 +1,151 @@
+#pragma once
+
+#include "finding.h"
+#include "jobdocument.h"
+
+#include <enjobtype.h>
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QUndoStack>
+#include <QVector>
+#include <vector>
+
+namespace JEDVEPLUGIN {
+class ISubSetting;
+class JEDSubSettingFactory;
+} // namespace JEDVEPLUGIN
+
+namespace Session {
+
+/// Where a setting stands: its position among the top-level settings of the job, then its position below each
+/// parent. Empty stands for the job itself.
+using SettingPath = QVector<int>;
+
+/// A job that is worked on: settings of several plug-ins in the order of the job file, and every change of them as
+/// a step that can be undone. Knows plug-ins as JEDSubSettingFactory and nodes as ISubSetting. A sub-job that no
+/// plug-in claims keeps its place and its content.
+///
+/// Changes that plug-ins make by themselves (an editor widget, a rule) become steps when the event loop is
+/// reached; flushEdits() collects them at once. GUI thread only.
+class JobSession : public QObject
+{
+    Q_OBJECT
+public:
+    using Factory = JEDVEPLUGIN::JEDSubSettingFactory;
+    using Setting = JEDVEPLUGIN::ISubSetting;
+
+    /// One of the job's sub-jobs.
+    struct TopLevel
+    {
+        Factory* factory = nullptr; ///< null: no plug-in claims it. Not owned.
+        Setting* setting = nullptr; ///< null likewise. The factory's.
+        JobXml::Subjob subjob;      ///< as the file had it
+        QString reason;             ///< why it has no setting
+        int number = 0;             ///< its own in this session, from 1
+    };
+
+    /// \param factories  those of the plug-ins, in the order in which they are asked; not owned, they outlive the
+    ///                   session
+    explicit JobSession(const QList<Factory*>& factories, QObject* parent = nullptr);
+    ~JobSession() override;
+
+    /// Drops the present job and begins an empty one.
+    void begin(JEDVE::enJOB_TYPE type, const QString& name);
+    /// Drops the present job and takes a job file over.
+    /// \return false, with the job as it was, if the file cannot be read; the reason is a finding
+    bool open(const QString& path, Findings* findings);
+    /// Writes the job in one piece.
+    /// \return false, with the old file untouched; the reason is a finding
+    bool save(const QString& path, Findings* findings);
+    /// Writes the settings into the document, as save() does, without a file.
+    /// \return false if a plug-in says that a setting must not be saved as it is
+    bool compose(Findings* findings);
+
+    bool isModified() const;
+    JobDocument& document() { return m_document; }
+    JEDVE::enJOB_TYPE jobType() const;
+    const QList<Factory*>& factories() const { return m_factories; }
+    /// The factories that support the type of the job.
+    QList<Factory*> activeFactories() const;
+
+    int topLevelCount() const { return int(m_topLevel.size()); }
+    const TopLevel& topLevel(int index) const { return m_topLevel[size_t(index)]; }
+    /// Position among the top-level settings, -1 for a stranger.
+    int topLevelIndex(const Setting* setting) const;
+    /// The factory of a setting of this job, null for a stranger.
+    Factory* factoryOf(const Setting* setting) const;
+    SettingPath pathOf(Setting* setting) const;
+    /// Null if there is nothing at that place, or a sub-job without a plug-in.
+    Setting* settingAt(const SettingPath& path) const;
+
+    /// What may be added below a parent now. \param parent  null: at the top, of \p factory
+    QStringList addableTypes(Factory* factory, Setting* parent) const;
+    /// \param window  parent of a dialog in which the user is asked, if the type needs that
+    Setting* add(Factory* factory, const QString& type, Setting* parent, QWidget* window);
+    bool remove(Setting* setting);
+    Setting* duplicate(Setting* setting);
+    /// The setting with its subtree as text; empty if it has none.
+    QString textOf(Setting* setting) const;
+    /// \param parent  null: at the top; the factories are asked in turn
+    Setting* paste(const QString& text, Setting* parent);
+    bool rename(Setting* setting, const QString& name);
+    /// Moves a child of \p parent (null: a top-level setting). \param to  position in front of which it goes
+    bool move(Setting* parent, int from, int to);
+    bool setParameterSet(Setting* setting, const QString& name, const QString& xml);
+
+    /// Collects what plug-ins have changed by themselves. \param step  what undo calls it
+    void flushEdits();
+    /// The next edit of a value begins a step of its own.
+    void endEditStep() { ++m_editStep; }
+
+    QUndoStack* undoStack() { return &m_undoStack; }
+
+signals:
+    /// Settings came, went or moved.
+    void structureChanged();
+    /// A setting looks different now, or its values changed.
+    void settingChanged(JEDVEPLUGIN::ISubSetting* setting);
+    /// A setting is about to be deleted with its subtree; structureChanged() follows.
+    void settingLeaving(JEDVEPLUGIN::ISubSetting* setting);
+    /// The job is about to be dropped with all its settings; jobReplaced() follows.
+    void jobLeaving();
+    /// Another job was begun or opened.
+    void jobReplaced();
+
+private:
+    friend class SettingCommand;
+    using Texts = QHash<QString, QString>;
+
+    void drop();
+    void takeOver(const JobXml::Job& job, Findings* findings);
+    TopLevel newTopLevel(Factory* factory, Setting* setting, const JobXml::Subjob& subjob);
+    TopLevel read(const JobXml::Subjob& subjob, const QString& place, Findings* findings);
+    void watch(Factory* factory);
+    void noteState(Setting* setting);
+    void remember(Setting* setting);
+    void forget(Setting* setting);
+    void push(QUndoCommand* command);
+    Setting* inserted(Factory* factory, Setting* setting, const QString& step);
+
+    // The changes themselves, without a step; used by the steps.
+    Setting* insertText(Factory* factory, const QString& text, const SettingPath& path,
+                        const JobXml::Subjob& subjob);
+    bool removeAt(const SettingPath& path);
+    void moveAt(const SettingPath& parent, int from, int to);
+    bool setTextAt(const SettingPath& path, const QString& name, const QString& xml);
+    bool renameAt(const SettingPath& path, const QString& name);
+
+    QList<Factory*> m_factories;
+    JobDocument m_document;
+    std::vector<TopLevel> m_topLevel;
+    QHash<Setting*, Texts> m_known; // Parameter-set texts as they were at the last step.
+    QSet<Setting*> m_changed;       // Settings that told of a change since.
+    QUndoStack m_undoStack;
+    int m_lastNumber = 0;
+    int m_editStep = 0;
+    bool m_isWorking = false; // A step of ours runs: what plug-ins tell belongs to it.
+    bool m_isFlushPending = false;
+};
+
+} // namespace Session

@@ -1,0 +1,464 @@
+#include <support/testmain.h>
+
+#include <isubsetting.h>
+#include <jedsubsettingfactory.h>
+#include <QAbstractItemModelTester>
+#include <QMimeData>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <session/installation.h>
+#include <session/jobsession.h>
+#include <session/pluginhost.h>
+#include <session/savefile.h>
+#include <session/settingtreemodel.h>
+
+using JEDVEPLUGIN::ISubSetting;
+using Session::Findings;
+using Session::JobSession;
+using Session::PluginHost;
+using Session::SettingPath;
+using Session::SettingTreeModel;
+
+namespace {
+const QString EXAMPLES = JED_SOURCE_DIR "/installation/Jobs/";
+
+QString firstSet(ISubSetting* setting)
+{
+    return setting->parameterSetNames().value(0);
+}
+
+// All settings of a job in display order.
+QVector<ISubSetting*> allSettings(const JobSession& session)
+{
+    QVector<ISubSetting*> result;
+    const std::function<void(ISubSetting*)> walk = [&](ISubSetting* setting) {
+        result.append(setting);
+        for (int i = 0; i < setting->childCount(); ++i)
+            walk(setting->child(i));
+    };
+    for (int i = 0; i < session.topLevelCount(); ++i) {
+        if (session.topLevel(i).setting)
+            walk(session.topLevel(i).setting);
+    }
+    return result;
+}
+} // namespace
+
+class TstJobSession : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup() { m_session.reset(); }
+
+    void pluginsAreFound();
+    void filesOfTheFolderHaveVerdicts();
+    void unknownFolderIsEmpty();
+    void exampleIsOpened_data() { examples(); }
+    void exampleIsOpened();
+    void exampleIsSavedUnchanged_data() { examples(); }
+    void exampleIsSavedUnchanged();
+    void unclaimedSubjobsStay();
+    void unreadableFileLeavesTheJob();
+    void newJobIsEmpty();
+    void deletionIsUndone();
+    void duplicateIsUndone();
+    void renamingIsUndone();
+    void moveIsUndone_data();
+    void moveIsUndone();
+    void editIsUndoneAndMerged();
+    void pasteIsUndone();
+    void pasteOfRubbishIsRefused();
+    void addableTypesKeepToTheLimits();
+    void modelShowsTheJob();
+    void modelFollowsEveryChange();
+    void modelDropsWithinAParent();
+    void manyEditsAreUndone();
+
+private:
+    void examples();
+    QByteArray text();
+    void open(const QString& name);
+
+    PluginHost m_host;
+    std::unique_ptr<JobSession> m_session;
+    QTemporaryDir m_folder;
+};
+
+void TstJobSession::initTestCase()
+{
+    QString error;
+    QLoggingCategory::setFilterRules("jobeditorve.trace=false");
+    QVERIFY2(Session::chooseInstallation(JED_SOURCE_DIR "/installation", QString(), &error),
+             qPrintable(error));
+    m_host.load(PluginHost::defaultFolders());
+}
+
+void TstJobSession::init()
+{
+    m_session = std::make_unique<JobSession>(m_host.factories());
+}
+
+void TstJobSession::examples()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"dfscan", "measurement", "production", "search", "surveillance"})
+        QTest::newRow(name) << QString(name);
+}
+
+void TstJobSession::open(const QString& name)
+{
+    Findings findings;
+    QVERIFY(m_session->open(EXAMPLES + name + ".xml", &findings));
+    QVERIFY(m_session->topLevelCount() > 0);
+}
+
+QByteArray TstJobSession::text()
+{
+    Findings findings;
+    [&] { QVERIFY(m_session->compose(&findings)); }();
+    return m_session->document().text();
+}
+
+void TstJobSession::pluginsAreFound()
+{
+    QVERIFY(m_host.factory("Search"));
+    QVERIFY(m_host.factory("minimal"));
+    QVERIFY(!m_host.factory("nobody"));
+    for (const auto& plugin : m_host.plugins())
+        QVERIFY2(plugin.report.isAccepted(), qPrintable(plugin.report.text));
+}
+
+void TstJobSession::filesOfTheFolderHaveVerdicts()
+{
+    QTemporaryDir folder;
+    QString error;
+    QVERIFY(Session::saveFile(folder.filePath("a.so"), "no library", &error));
+    QVERIFY(Session::saveFile(folder.filePath("b.so"), QByteArray(), &error));
+    QFile::link(folder.filePath("missing"), folder.filePath("c.so"));
+    PluginHost host;
+    host.load({folder.path()});
+    QCOMPARE(host.plugins().size(), size_t(3));
+    QCOMPARE(host.plugins()[0].report.verdict, LIBRARY_NO_LIBRARY);
+    QCOMPARE(host.plugins()[1].report.verdict, LIBRARY_EMPTY);
+    QCOMPARE(host.plugins()[2].report.verdict, LIBRARY_DANGLING_LINK);
+    QVERIFY(host.factories().isEmpty());
+}
+
+void TstJobSession::unknownFolderIsEmpty()
+{
+    PluginHost host;
+    host.load({"/nonexistent/folder"});
+    QVERIFY(host.plugins().empty());
+}
+
+void TstJobSession::exampleIsOpened()
+{
+    QFETCH(QString, name);
+    open(name);
+    QCOMPARE(m_session->topLevelCount(), m_session->document().job().GetSubjob().size());
+    QVERIFY(!m_session->isModified());
+    for (ISubSetting* setting : allSettings(*m_session)) {
+        QCOMPARE(m_session->settingAt(m_session->pathOf(setting)), setting);
+        QVERIFY(m_session->factoryOf(setting));
+    }
+}
+
+void TstJobSession::exampleIsSavedUnchanged()
+{
+    QFETCH(QString, name);
+    open(name);
+    Findings findings;
+    const QString path = m_folder.filePath(name + ".xml");
+    QVERIFY(m_session->save(path, &findings));
+    QByteArray before;
+    QByteArray after;
+    QString error;
+    QVERIFY(Session::readFile(EXAMPLES + name + ".xml", &before, &error));
+    QVERIFY(Session::readFile(path, &after, &error));
+    QCOMPARE(QString(after), QString(before));
+}
+
+void TstJobSession::unclaimedSubjobsStay()
+{
+    m_session = std::make_unique<JobSession>(QList<JobSession::Factory*>());
+    open("search");
+    QCOMPARE(m_session->topLevel(0).factory, nullptr);
+    QVERIFY(!m_session->topLevel(0).reason.isEmpty());
+    QVERIFY(!m_session->settingAt({0}));
+    QByteArray before;
+    QString error;
+    QVERIFY(Session::readFile(EXAMPLES + "search.xml", &before, &error));
+    QCOMPARE(QString(text()), QString(before));
+}
+
+void TstJobSession::unreadableFileLeavesTheJob()
+{
+    open("search");
+    const QByteArray before = text();
+    Findings findings;
+    QVERIFY(!m_session->open(m_folder.filePath("missing.xml"), &findings));
+    QCOMPARE(findings.size(), 1);
+    QCOMPARE(text(), before);
+}
+
+void TstJobSession::newJobIsEmpty()
+{
+    QSignalSpy replaced(m_session.get(), &JobSession::jobReplaced);
+    m_session->begin(JEDVE::JOB_TYPE_SEARCH, "Morning");
+    QCOMPARE(replaced.size(), 1);
+    QCOMPARE(m_session->topLevelCount(), 0);
+    QCOMPARE(int(m_session->jobType()), int(JEDVE::JOB_TYPE_SEARCH));
+    QVERIFY(!m_session->activeFactories().isEmpty());
+    QVERIFY(!m_session->isModified());
+}
+
+void TstJobSession::deletionIsUndone()
+{
+    open("search");
+    const QByteArray before = text();
+    const int count = m_session->topLevelCount();
+    QVERIFY(m_session->remove(m_session->settingAt({0})));
+    QCOMPARE(m_session->topLevelCount(), count - 1);
+    QVERIFY(m_session->isModified());
+    const QByteArray after = text();
+    QVERIFY(after != before);
+    m_session->undoStack()->undo();
+    QCOMPARE(QString(text()), QString(before));
+    m_session->undoStack()->redo();
+    QCOMPARE(QString(text()), QString(after));
+}
+
+void TstJobSession::duplicateIsUndone()
+{
+    open("search");
+    const QByteArray before = text();
+    QVERIFY(m_session->duplicate(m_session->settingAt({0})));
+    const QByteArray after = text();
+    m_session->undoStack()->undo();
+    QCOMPARE(QString(text()), QString(before));
+    m_session->undoStack()->redo();
+    QCOMPARE(QString(text()), QString(after));
+}
+
+void TstJobSession::renamingIsUndone()
+{
+    open("search");
+    ISubSetting* const setting = m_session->settingAt({0});
+    const QString before = setting->getDisplayName();
+    QVERIFY(m_session->rename(setting, "Another name"));
+    QVERIFY(!m_session->rename(setting, "Another name"));
+    QCOMPARE(setting->getDisplayName(), QString("Another name"));
+    m_session->undoStack()->undo();
+    QCOMPARE(setting->getDisplayName(), before);
+}
+
+void TstJobSession::moveIsUndone_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::newRow("to the end") << 0 << 3;
+    QTest::newRow("one down") << 0 << 2;
+    QTest::newRow("to the front") << 2 << 0;
+    QTest::newRow("one up") << 2 << 1;
+}
+
+void TstJobSession::moveIsUndone()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    open("search");
+    while (m_session->topLevelCount() < 3)
+        QVERIFY(m_session->duplicate(m_session->settingAt({0})));
+    const QByteArray before = text();
+    ISubSetting* const setting = m_session->settingAt({from});
+    QVERIFY(m_session->move(nullptr, from, to));
+    QCOMPARE(m_session->topLevelIndex(setting), to > from ? to - 1 : to);
+    m_session->undoStack()->undo();
+    QCOMPARE(QString(text()), QString(before));
+    QVERIFY(!m_session->move(nullptr, from, from));
+    QVERIFY(!m_session->move(nullptr, from, from + 1));
+    QVERIFY(!m_session->move(nullptr, -1, 1));
+    QVERIFY(!m_session->move(nullptr, 0, 99));
+}
+
+void TstJobSession::editIsUndoneAndMerged()
+{
+    open("search");
+    ISubSetting* tuner = nullptr;
+    for (ISubSetting* setting : allSettings(*m_session)) {
+        if (setting->parameterSetNames().contains("TunerSettings"))
+            tuner = setting;
+    }
+    QVERIFY(tuner);
+    const QByteArray before = text();
+    const int steps = m_session->undoStack()->count();
+    const auto shift = [&] {
+        QString xml = tuner->parameterSetText("TunerSettings");
+        const QRegularExpressionMatch match = QRegularExpression("<CenterFrequency>(\\d+)").match(xml);
+        const qint64 frequency = match.captured(1).toLongLong() + 1000;
+        xml.replace(match.captured(0), QString("<CenterFrequency>%1").arg(frequency));
+        return m_session->setParameterSet(tuner, "TunerSettings", xml);
+    };
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(shift());
+    const QString merged = tuner->parameterSetText("TunerSettings");
+    QCOMPARE(m_session->undoStack()->count(), steps + 1);
+    m_session->endEditStep();
+    QVERIFY(shift());
+    QCOMPARE(m_session->undoStack()->count(), steps + 2);
+    m_session->undoStack()->undo();
+    QCOMPARE(tuner->parameterSetText("TunerSettings"), merged);
+    m_session->undoStack()->undo();
+    QCOMPARE(QString(text()), QString(before));
+    QVERIFY(!m_session->isModified());
+}
+
+void TstJobSession::pasteIsUndone()
+{
+    open("search");
+    const QByteArray before = text();
+    const QString copied = m_session->textOf(m_session->settingAt({0}));
+    QVERIFY(!copied.isEmpty());
+    QVERIFY(m_session->paste(copied, nullptr));
+    m_session->undoStack()->undo();
+    QCOMPARE(QString(text()), QString(before));
+}
+
+void TstJobSession::pasteOfRubbishIsRefused()
+{
+    open("search");
+    for (const char* rubbish : {"", "rubbish", "<Job/>"})
+        QVERIFY(!m_session->paste(rubbish, nullptr));
+    QCOMPARE(m_session->undoStack()->count(), 0);
+}
+
+void TstJobSession::addableTypesKeepToTheLimits()
+{
+    open("search");
+    for (ISubSetting* setting : allSettings(*m_session)) {
+        JobSession::Factory* const factory = m_session->factoryOf(setting);
+        for (const QString& type : m_session->addableTypes(factory, setting)) {
+            QVERIFY(factory->isAppendable(setting, type));
+            QVERIFY(setting->typeCount(type) < factory->getMaxCount(type));
+        }
+        QVERIFY(!m_session->add(factory, "no such type", setting, nullptr));
+    }
+    m_host.factory("Search")->setReadOnly(true);
+    QVERIFY(m_session->addableTypes(m_host.factory("Search"), nullptr).isEmpty());
+    m_host.factory("Search")->setReadOnly(false);
+}
+
+void TstJobSession::modelShowsTheJob()
+{
+    SettingTreeModel model(m_session.get());
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    open("search");
+    QCOMPARE(model.rowCount(), m_session->topLevelCount());
+    for (ISubSetting* setting : allSettings(*m_session)) {
+        const QModelIndex index = model.indexOf(setting);
+        QVERIFY(index.isValid());
+        QCOMPARE(model.settingOf(index), setting);
+        QCOMPARE(index.data().toString(), setting->getDisplayName());
+        QCOMPARE(index.data(SettingTreeModel::TYPE_ROLE).toString(), setting->getSettingType());
+        QCOMPARE(model.rowCount(index), setting->childCount());
+    }
+}
+
+void TstJobSession::modelFollowsEveryChange()
+{
+    SettingTreeModel model(m_session.get());
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    open("search");
+    const auto isInStep = [&] {
+        QVector<ISubSetting*> shown;
+        const std::function<void(const QModelIndex&)> walk = [&](const QModelIndex& index) {
+            if (index.isValid())
+                shown.append(model.settingOf(index));
+            for (int row = 0; row < model.rowCount(index); ++row)
+                walk(model.index(row, 0, index));
+        };
+        walk(QModelIndex());
+        return shown == allSettings(*m_session);
+    };
+    QVERIFY(isInStep());
+    QVERIFY(m_session->duplicate(m_session->settingAt({0})));
+    QVERIFY(isInStep());
+    QVERIFY(m_session->move(nullptr, 0, 2));
+    QVERIFY(isInStep());
+    QVERIFY(m_session->remove(m_session->settingAt({0})));
+    QVERIFY(isInStep());
+    while (m_session->undoStack()->canUndo()) {
+        m_session->undoStack()->undo();
+        QVERIFY(isInStep());
+    }
+}
+
+void TstJobSession::modelDropsWithinAParent()
+{
+    SettingTreeModel model(m_session.get());
+    open("search");
+    ISubSetting* const first = m_session->settingAt({0});
+    m_session->duplicate(first);
+    const std::unique_ptr<QMimeData> data(model.mimeData({model.indexOf(first)}));
+    QVERIFY(model.canDropMimeData(data.get(), Qt::MoveAction, 2, 0, QModelIndex()));
+    QVERIFY(!model.canDropMimeData(data.get(), Qt::MoveAction, 0, 0, model.indexOf(first)));
+    model.dropMimeData(data.get(), Qt::MoveAction, 2, 0, QModelIndex());
+    QCOMPARE(m_session->topLevelIndex(first), 1);
+    const int count = m_session->topLevelCount();
+    QVERIFY(model.dropMimeData(data.get(), Qt::CopyAction, -1, 0, QModelIndex()));
+    QCOMPARE(m_session->topLevelCount(), count + 1);
+    QMimeData foreign;
+    foreign.setData("application/x-jobeditor-setting-place", "17/0");
+    QVERIFY(!model.canDropMimeData(&foreign, Qt::MoveAction, 0, 0, QModelIndex()));
+}
+
+void TstJobSession::manyEditsAreUndone()
+{
+    SettingTreeModel model(m_session.get());
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    open("search");
+    const QByteArray before = text();
+    const quint32 seed = QRandomGenerator::global()->generate();
+    QRandomGenerator random(seed);
+    const int count = qEnvironmentVariableIsSet("JED_SLOW_TESTS") ? 1000 : 100;
+    for (int edit = 0; edit < count; ++edit) {
+        const QVector<ISubSetting*> settings = allSettings(*m_session);
+        if (settings.isEmpty() || settings.size() > 60) {
+            m_session->undoStack()->undo();
+            continue;
+        }
+        ISubSetting* const setting = settings[random.bounded(settings.size())];
+        switch (random.bounded(6)) {
+        case 0:
+            m_session->remove(setting);
+            break;
+        case 1:
+            m_session->duplicate(setting);
+            break;
+        case 2:
+            m_session->paste(m_session->textOf(setting), setting->parent());
+            break;
+        case 3:
+            m_session->rename(setting, QString("Name %1").arg(edit));
+            break;
+        case 4:
+            m_session->move(nullptr, random.bounded(m_session->topLevelCount()),
+                            random.bounded(m_session->topLevelCount() + 1));
+            break;
+        default:
+            m_session->endEditStep();
+            if (ISubSetting* const other = settings[random.bounded(settings.size())];
+                !firstSet(setting).isEmpty() && other->parameterSetNames().contains(firstSet(setting)))
+                m_session->setParameterSet(setting, firstSet(setting),
+                                           other->parameterSetText(firstSet(setting)));
+        }
+    }
+    while (m_session->undoStack()->canUndo())
+        m_session->undoStack()->undo();
+    QVERIFY2(text() == before, qPrintable(QString("seed %1\n%2").arg(seed).arg(QString(text()))));
+}
+
+JED_TEST_MAIN(TstJobSession)
+#include "tst_jobsession.moc"
