@@ -1,10 +1,10 @@
 #include "frequencylistview.h"
 #include "naivelistview.h"
+#include "widgetbenchmarks.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QAbstractTableModel>
-#include <QApplication>
 #include <QHeaderView>
 #include <QTableView>
 
@@ -161,8 +161,5 @@ BENCHMARK_TEMPLATE(deleteKey, NaiveListView)->Arg(1)->Arg(100)->Unit(benchmark::
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runWidgetBenchmarks(argc, argv);
 }

@@ -1,12 +1,12 @@
 #include "filterintegerrangeproxymodel.h"
 #include "naiveresourcemodel.h"
 #include "selectableresourcemodel.h"
+#include "widgetbenchmarks.h"
 
 #include <support/resourcesamples.h>
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QStandardItemModel>
 
 #include <algorithm>
@@ -284,8 +284,5 @@ BENCHMARK(makeItems)->Arg(500)->Arg(5000);
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runWidgetBenchmarks(argc, argv);
 }
