@@ -1,4 +1,5 @@
 #include <support/resourcedialogfixture.h>
+#include <support/shoutingtranslator.h>
 #include <support/testmain.h>
 
 #include <QElapsedTimer>
@@ -38,6 +39,8 @@ private slots:
     void preClassifierBeginsUnchecked();
     void labelsAreBuddiesAndFieldsHaveAccessibleNames();
     void tabGoesFromRowToRow();
+    void textsAreTranslated();
+    void resultsBeforeTheEnd();
     void typesAreSorted();
     void laterDescriptionReplacesAnEarlierOne();
     void nothingToChooseFrom();
@@ -246,6 +249,33 @@ void TstResourceSelectionDialog::tabGoesFromRowToRow()
              QString("TunerType BaseResource RecordLocation StartupModes PreClassifier Detector DetectorType "
                      "AutoSeparation FilterSeparation OnlineRecombination DSCChannels DetectorBaseResource "
                      "MinCoverage AutoRecording OkButton CancelButton TunerType"));
+}
+
+void TstResourceSelectionDialog::textsAreTranslated()
+{
+    const JedTest::ShoutingTranslator translator;
+    open({receiver("HT720", "A")}, {true, false, true, {}});
+    const auto shouted = [](const char* text) {
+        return "JEDVEPLUGIN::ResourceSelectionDialog|" + QString(text).toUpper();
+    };
+    for (const QLabel* label : m_dialog->findChildren<QLabel*>())
+        QVERIFY2(label->text().startsWith("JEDVEPLUGIN::ResourceSelectionDialog|"),
+                 qPrintable(label->text()));
+    QCOMPARE(find<QPushButton>("OkButton")->text(), shouted("Select"));
+    QCOMPARE(find<QPushButton>("CancelButton")->text(), shouted("Cancel"));
+    QCOMPARE(check("PreClassifier")->toolTip(), shouted("enable Preclassifier"));
+    QCOMPARE(spin("DSCChannels")->toolTip(), shouted("set number of DSC Channels"));
+    combo("DetectorType")->setCurrentIndex(1);
+    QCOMPARE(spin("DSCChannels")->toolTip(), shouted("set number of ST Channels"));
+    QCOMPARE(find<QLabel>("DSCChannelsLabel")->text(), shouted("ST Channels"));
+}
+
+void TstResourceSelectionDialog::resultsBeforeTheEnd()
+{
+    open({receiver("HT720", "A", "Timed")}, {true, true, true, {}});
+    check("PreClassifier")->setChecked(true);
+    spin("DSCChannels")->setValue(3);
+    QCOMPARE(results(), QString("A|Timed|||0 DSC|0%|||"));
 }
 
 void TstResourceSelectionDialog::typesAreSorted()
@@ -483,7 +513,7 @@ void TstResourceSelectionDialog::manyDescriptions()
         combo("TunerType")->setCurrentIndex(type);
         QCOMPARE(combo("BaseResource")->count(), 100);
     }
-    // Ten times what nobody notices; it takes some thirty milliseconds.
+    // Ten times what nobody notices.
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
 }
 

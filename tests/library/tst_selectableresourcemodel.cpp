@@ -1,9 +1,9 @@
 #include "selectableresourcemodel.h"
 
 #include <support/resourcemodelfixture.h>
+#include <support/shoutingtranslator.h>
 
 #include <QStandardItemModel>
-#include <QTranslator>
 
 using JedTest::DescriptionPtr;
 using JedTest::names;
@@ -133,21 +133,11 @@ void TstSelectableResourceModel::headers()
 
 void TstSelectableResourceModel::headersAreTranslated()
 {
-    class Shouting : public QTranslator
-    {
-    public:
-        QString translate(const char* context, const char* text, const char*, int) const override
-        {
-            return QString("%1|%2").arg(QString::fromLatin1(context), QString::fromLatin1(text).toUpper());
-        }
-        bool isEmpty() const override { return false; }
-    };
-    Shouting translator;
-    QCoreApplication::installTranslator(&translator);
+    auto translator = std::make_unique<JedTest::ShoutingTranslator>();
     const QString count = m_model->headerData(1, Qt::Horizontal).toString();
     const std::unique_ptr<QAbstractItemModel> tree(m_model->getHierarchicalModel(nullptr));
     const QString countOfTree = tree->headerData(1, Qt::Horizontal).toString();
-    QCoreApplication::removeTranslator(&translator);
+    translator.reset();
     QCOMPARE(count, QString("JEDVEPLUGIN::SelectableResourceModel|COUNT"));
     QCOMPARE(countOfTree, QString("Count"));
 }
