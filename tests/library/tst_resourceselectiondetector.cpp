@@ -124,8 +124,6 @@ private slots:
     void baseResourcesAreFilled();
     void choiceStaysAmongTheSameBaseResources();
     void cancelledDialogHasNeutralResults();
-    void acceptedAfterCancelTakesTheFields();
-    void withoutDetectorFields();
 
 private:
     void apply(const Setting& setting);
@@ -470,30 +468,6 @@ void TstResourceSelectionDetector::cancelledDialogHasNeutralResults()
     QCOMPARE(m_dialog->getDetectorRecordLocation(), QString("Center"));
     QVERIFY(m_dialog->isProductionSet());
     m_dialog->done(2);
-    QCOMPARE(results(), QString("none||||0 DSC|0%|||"));
-}
-
-void TstResourceSelectionDetector::acceptedAfterCancelTakesTheFields()
-{
-    open({receiver(HT720, "A", "Timed"), receiver(HT720, "B", "Manual")}, {true, true, true, {}});
-    m_dialog->reject();
-    combo("BaseResource")->setCurrentIndex(1);
-    m_dialog->accept();
-    QCOMPARE(results(), QString("B|Manual|Receiver|SignalDetector|0 DSC|50%|||detector"));
-}
-
-void TstResourceSelectionDetector::withoutDetectorFields()
-{
-    open({receiver(HT720, "A", "Timed", "X"), receiver(RECORDER, "B")}, {false, true, false, {}});
-    QVERIFY(!check("Detector"));
-    QVERIFY(!spin("DSCChannels"));
-    combo("TunerType")->setCurrentText(RECORDER);
-    QCOMPARE(visibleFields(), QString("BaseResource TunerName TunerType"));
-    combo("TunerType")->setCurrentText(HT720);
-    QCOMPARE(visibleFields(), QString("BaseResource RecordLocation StartupModes TunerName TunerType"));
-    m_dialog->accept();
-    QCOMPARE(results(), QString("A|Timed|Receiver||0 DSC|50%|||"));
-    m_dialog->reject();
     QCOMPARE(results(), QString("none||||0 DSC|0%|||"));
 }
 

@@ -2,7 +2,6 @@
 #include <support/shoutingtranslator.h>
 #include <support/testmain.h>
 
-#include <QElapsedTimer>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QMetaMethod>
@@ -18,8 +17,6 @@ namespace {
 const QString NOT_RECORDED = "Not recorded";
 const QString STATION = "Server of the station";
 const QString ALL_LOCATIONS = "Not recorded, At the receiver, Server of the station, Monitoring centre";
-
-const char* const RESULTS_OF_CANCEL = "none||||0 DSC|0%|||";
 
 } // namespace
 
@@ -40,7 +37,6 @@ private slots:
     void labelsAreBuddiesAndFieldsHaveAccessibleNames();
     void tabGoesFromRowToRow();
     void textsAreTranslated();
-    void resultsBeforeTheEnd();
     void typesAreSorted();
     void laterDescriptionReplacesAnEarlierOne();
     void nothingToChooseFrom();
@@ -52,11 +48,6 @@ private slots:
     void startupModes();
     void chosenStartupModeIsTaken();
     void otherBaseResourceBeginsWithItsFirstMode();
-    void buttonsAndKeysEndTheDialog_data();
-    void buttonsAndKeysEndTheDialog();
-    void resultsAreTakenBeforeFinishedIsHeard();
-    void execReturnsWhatTheUserDid();
-    void manyDescriptions();
 };
 
 void TstResourceSelectionDialog::namesAreThoseOfTheInterface()
@@ -270,14 +261,6 @@ void TstResourceSelectionDialog::textsAreTranslated()
     QCOMPARE(find<QLabel>("DSCChannelsLabel")->text(), shouted("ST Channels"));
 }
 
-void TstResourceSelectionDialog::resultsBeforeTheEnd()
-{
-    open({receiver("HT720", "A", "Timed")}, {true, true, true, {}});
-    check("PreClassifier")->setChecked(true);
-    spin("DSCChannels")->setValue(3);
-    QCOMPARE(results(), QString("A|Timed|||0 DSC|0%|||"));
-}
-
 void TstResourceSelectionDialog::typesAreSorted()
 {
     open({receiver("DirectionFinder", "A"), receiver("Strange", "A"), receiver("TRV9KScanSettings", "A"),
@@ -441,80 +424,6 @@ void TstResourceSelectionDialog::otherBaseResourceBeginsWithItsFirstMode()
     combo("BaseResource")->setCurrentText("C");
     QCOMPARE(m_dialog->getSelectedStartupMode(), QString("Permanent"));
     QVERIFY(isVisible("StartupModes"));
-}
-
-void TstResourceSelectionDialog::buttonsAndKeysEndTheDialog_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("result");
-    QTest::newRow("Select") << "OkButton" << 0 << 1;
-    QTest::newRow("Cancel") << "CancelButton" << 0 << 0;
-    QTest::newRow("Return") << "" << int(Qt::Key_Return) << 1;
-    QTest::newRow("Escape") << "" << int(Qt::Key_Escape) << 0;
-}
-
-void TstResourceSelectionDialog::buttonsAndKeysEndTheDialog()
-{
-    QFETCH(QString, button);
-    QFETCH(int, key);
-    QFETCH(int, result);
-
-    open({receiver("HT720", "A", "Timed")}, {true, true, true, {}});
-    m_dialog->show();
-    QSignalSpy spy(m_dialog.get(), &QDialog::finished);
-    if (button.isEmpty())
-        QTest::keyClick(m_dialog.get(), Qt::Key(key));
-    else
-        QTest::mouseClick(find<QPushButton>(button), Qt::LeftButton);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.first().first().toInt(), result);
-    QCOMPARE(m_dialog->result(), result);
-    QCOMPARE(results(),
-             QString(result == QDialog::Accepted ? "A|Timed|Receiver|SignalDetector|0 DSC|50%|||detector"
-                                                 : RESULTS_OF_CANCEL));
-}
-
-void TstResourceSelectionDialog::resultsAreTakenBeforeFinishedIsHeard()
-{
-    open({receiver("HT720", "A", "Timed")}, {true, true, false, {}});
-    QString heard;
-    connect(m_dialog.get(), &QDialog::finished, this, [&] { heard = results(); });
-    m_dialog->accept();
-    QCOMPARE(heard, QString("A|Timed|Receiver|SignalDetector|0 DSC|50%|||detector"));
-}
-
-void TstResourceSelectionDialog::execReturnsWhatTheUserDid()
-{
-    open({receiver("HT720", "A", "Timed"), receiver("HT720", "B", "Manual")}, {});
-    QTimer::singleShot(0, m_dialog.get(), [this] {
-        combo("BaseResource")->setCurrentIndex(1);
-        QTest::keyClick(m_dialog.get(), Qt::Key_Return);
-    });
-    QCOMPARE(m_dialog->exec(), int(QDialog::Accepted));
-    QCOMPARE(m_dialog->getSelectedDescription()->getBaseResource(), QString("B"));
-    QCOMPARE(m_dialog->getSelectedStartupMode(), QString("Manual"));
-}
-
-void TstResourceSelectionDialog::manyDescriptions()
-{
-    QList<DescriptionPtr> resources;
-    for (int number = 0; number < 500; ++number) {
-        const QString connectable = QStringList(QVector<QString>(20, "C").toList()).join(' ');
-        resources << receiver(JedTest::RESOURCE_KINDS.at(number % 5), QString("R%1").arg(number),
-                              "Manual Timed", connectable);
-    }
-    QElapsedTimer timer;
-    timer.start();
-    open(resources, {true, true, true, {}});
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
-    for (int type = 4; type >= 0; --type) {
-        combo("TunerType")->setCurrentIndex(type);
-        QCOMPARE(combo("BaseResource")->count(), 100);
-    }
-    // Ten times what nobody notices.
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
 }
 
 JED_TEST_MAIN(TstResourceSelectionDialog)
