@@ -4,6 +4,8 @@
 #include <kit/subjobnode.h>
 
 #include <jobxml/settings.h>
+#include <QCoreApplication>
+#include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QTabWidget>
@@ -11,6 +13,13 @@
 #include <values/node.h>
 
 using JEDVEPLUGIN::Problem;
+
+namespace {
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PluginKit::SettingNode)
+};
+} // namespace
 
 namespace PluginKit {
 
@@ -195,9 +204,12 @@ void SettingNode::addEditors(QTabWidget* tabs) const
     tabs->setAccessibleName(getDisplayName());
     for (const QString& name : m_type.parameterSets) {
         const HeldSet* const set = heldSet(name);
-        QWidget* const editor = set ? m_factory.makeEditor(*set, tabs) : nullptr;
-        if (!editor)
+        if (!set)
             continue;
+        QWidget* editor = m_factory.makeEditor(*set, tabs);
+        if (!editor)
+            editor =
+                new QLabel(Texts::tr("There is no editor for these settings. They stay as they are."), tabs);
         auto* const area = new QScrollArea(tabs);
         area->setFrameShape(QFrame::NoFrame);
         area->setWidgetResizable(true);

@@ -23,8 +23,8 @@ PluginKit::PluginDeclaration declaration()
     PluginKit::PluginDeclaration plugin;
     plugin.name = "Minimal"; // Also its place in the value tree: without a "/".
     plugin.description = QCoreApplication::translate("MinimalPlugin", "Tunes one receiver for each sub-job.");
-    plugin.jobTypes = {JEDVE::JOB_TYPE_PRODUCTION, JEDVE::JOB_TYPE_SEARCH, JEDVE::JOB_TYPE_SURVEILLANCE};
-    plugin.resourceTypes = QStringList{"HT720"};                       // The receivers that can be chosen,
+    plugin.jobTypes = {JEDVE::JOB_TYPE_MEASUREMENT}; // Jobs in which no other plug-in claims these receivers.
+    plugin.resourceTypes = QStringList{"HT720"};     // The receivers that can be chosen,
     plugin.requiredComponents = QStringList{"TunerSettingsComponent"}; // if they have all of these.
     plugin.types = {subjob};
     return plugin;

@@ -1,5 +1,6 @@
 #include "loadedplugin.h"
 
+#include <jedcommonhelper.h>
 #include <support/testmain.h>
 
 #include <limits>
@@ -13,7 +14,7 @@ using JEDVEPLUGIN::ISubSetting;
 using JEDVEPLUGIN::Problem;
 using JEDVEPLUGIN::ResourceUse;
 
-/// What holds for every plug-in, with both of this tree.
+/// What holds for every plug-in.
 class TstPluginFrame : public QObject
 {
     Q_OBJECT
@@ -29,6 +30,10 @@ private slots:
     void whatCannotBeCreated();
     void savedSubJobsAreValidAndReadBackEqual_data() { plugins(); }
     void savedSubJobsAreValidAndReadBackEqual();
+    void exampleJobsStayAsTheyAre_data();
+    void exampleJobsStayAsTheyAre();
+    void everyExampleJobHasItsPlugin_data();
+    void everyExampleJobHasItsPlugin();
     void editingTellsAndCounts_data() { plugins(); }
     void editingTellsAndCounts();
     void parameterSetTextsUndo_data() { plugins(); }
@@ -59,6 +64,7 @@ private:
     {
         QTest::addColumn<QString>("plugin");
         QTest::newRow("minimal") << "minimal";
+        QTest::newRow("production") << "production";
         QTest::newRow("search") << "search";
     }
     static ISubSetting* create(const LoadedPlugin& plugin, const QString& resource = "HT720/HF-1");
@@ -66,6 +72,8 @@ private:
 };
 
 namespace {
+const char* const PLUGINS[] = {"dfscan", "minimal", "production", "search"};
+const char* const JOBS[] = {"dfscan", "measurement", "production", "search", "surveillance"};
 const char* const SUB_JOB = "SubJob";
 const char* const TUNER = "TunerSettings";
 
@@ -213,6 +221,68 @@ void TstPluginFrame::savedSubJobsAreValidAndReadBackEqual()
     JobXml::Subjob unchanged = subjob;
     QVERIFY(loaded->writeSubjob(again, unchanged, nullptr));
     QCOMPARE(unchanged.GetXmlString(false), subjob.GetXmlString(false));
+}
+
+void TstPluginFrame::exampleJobsStayAsTheyAre_data()
+{
+    QTest::addColumn<QString>("plugin");
+    QTest::addColumn<QString>("job");
+    for (const char* plugin : PLUGINS) {
+        for (const char* job : JOBS)
+            QTest::addRow("%s, %s", plugin, job) << QString(plugin) << QString(job);
+    }
+}
+
+void TstPluginFrame::exampleJobsStayAsTheyAre()
+{
+    QFETCH(QString, plugin);
+    QFETCH(QString, job);
+    const LoadedPlugin loaded(plugin);
+    const JobXml::Job example = JedTest::exampleJob(job);
+    for (const JobXml::Subjob& subjob : example.GetSubjob()) {
+        if (!loaded->claimsSubjob(subjob))
+            continue;
+        QList<Problem> problems;
+        ISubSetting* const node = loaded->readSubjob(subjob, &problems);
+        QVERIFY(node);
+        JobXml::Subjob written = subjob;
+        QVERIFY(loaded->writeSubjob(node, written, &problems));
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.value(0).text));
+        QCOMPARE(written.GetXmlString(false), subjob.GetXmlString(false));
+        // The editor has shown it meanwhile.
+        QVERIFY(node->getWidget());
+        for (int i = 0; i < node->childCount(); ++i)
+            QVERIFY(node->child(i)->getWidget());
+        QVERIFY(loaded->writeSubjob(node, written, &problems));
+        QCOMPARE(written.GetXmlString(false), subjob.GetXmlString(false));
+        ISubSetting* const copy = loaded->pasteMimeText(node->getMimeText(0), nullptr);
+        QVERIFY(copy);
+        setName(copy, node->getDisplayName());
+        QCOMPARE(outline(copy), outline(node));
+    }
+}
+
+void TstPluginFrame::everyExampleJobHasItsPlugin_data()
+{
+    QTest::addColumn<QString>("plugin");
+    QTest::newRow("dfscan") << "dfscan";
+    QTest::newRow("measurement") << "dfscan";
+    QTest::newRow("production") << "production";
+    QTest::newRow("search") << "search";
+    QTest::newRow("surveillance") << "search";
+}
+
+void TstPluginFrame::everyExampleJobHasItsPlugin()
+{
+    QFETCH(QString, plugin);
+    const JobXml::Job job = JedTest::exampleJob(QTest::currentDataTag());
+    for (const char* name : PLUGINS) {
+        const LoadedPlugin loaded(name);
+        loaded->slot_setCurrentJobType(
+            JEDVEPLUGIN::JEDCommonHelper::jobXmlTypeToJobType(job.GetJobInformation().GetJobType()));
+        for (const JobXml::Subjob& subjob : job.GetSubjob())
+            QCOMPARE(loaded->claimsSubjob(subjob), name == plugin);
+    }
 }
 
 void TstPluginFrame::editingTellsAndCounts()
@@ -474,6 +544,8 @@ void TstPluginFrame::pluginsOnTheKitAreSmall_data()
     QTest::addColumn<QString>("plugin");
     QTest::addColumn<int>("lines");
     QTest::newRow("minimal") << "minimal" << 120;
+    QTest::newRow("production") << "production" << 400;
+    QTest::newRow("dfscan") << "dfscan" << 400;
     QTest::newRow("search") << "search" << 400;
 }
 
