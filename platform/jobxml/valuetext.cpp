@@ -75,27 +75,34 @@ bool isWhole(const ValueBase& value)
     return dynamic_cast<const ValueInt*>(&value) || dynamic_cast<const ValueInt64*>(&value);
 }
 
-bool assignNumber(ValueBase* value, const Field* field, const QString& text, QString* reason)
+// The number that a text says, as a value takes it.
+bool readNumber(const QString& text, const QString& unit, bool wantsWhole, const Range& range,
+                QString* number, QString* reason)
 {
-    const QString unit = unitOf(field);
     qint64 whole = 0;
-    double number = 0;
-    const bool wantsWhole = isWhole(*value);
+    double real = 0;
     if (wantsWhole ? !JobXml::parseWholeQuantity(text, unit, &whole)
-                   : !JobXml::parseQuantity(text, unit, &number)) {
+                   : !JobXml::parseQuantity(text, unit, &real)) {
         const QString kind =
             wantsWhole ? Texts::tr("\"%1\" is no whole number") : Texts::tr("\"%1\" is no number");
         const QString units = JobXml::unitsFor(unit).join(QLatin1String(", "));
         return refuse(reason,
                       kind.arg(text) + (units.isEmpty() ? QString() : Texts::tr(" in %1").arg(units)));
     }
-    const Range range = rangeOf(*value, field);
-    const double size = wantsWhole ? double(whole) : number;
+    const double size = wantsWhole ? double(whole) : real;
     if (size < range.minimum || size > range.maximum)
         return refuse(reason, Texts::tr("%1 is outside %2")
                                   .arg(JobXml::readableQuantity(ValueText::fromDouble(size), unit),
                                        rangeText(range, unit)));
-    return value->SetText(wantsWhole ? QString::number(whole) : ValueText::fromDouble(number));
+    *number = wantsWhole ? QString::number(whole) : ValueText::fromDouble(real);
+    return true;
+}
+
+bool assignNumber(ValueBase* value, const Field* field, const QString& text, QString* reason)
+{
+    QString number;
+    return readNumber(text, unitOf(field), isWhole(*value), rangeOf(*value, field), &number, reason) &&
+           value->SetText(number);
 }
 
 bool assignTruth(ValueBase* value, const QString& text, QString* reason)
@@ -140,33 +147,57 @@ bool assignSelection(ValueSelection* selection, const Field* field, const QStrin
                                    : QLatin1Char('.') + JobXml::suggestion(text, names)));
 }
 
-bool assignList(StringList* list, const QString& text)
+// One item of a list of the field's values, as it is written into files.
+bool readItem(const Field* field, const QString& text, QString* item, QString* reason)
 {
-    QVector<QString> items;
-    for (const QString& item : text.split(QLatin1Char(','))) {
-        if (!item.trimmed().isEmpty())
-            items.append(item.trimmed());
+    using REPORTGENERATOR::FieldKind;
+    if (field && field->isNumber()) {
+        const bool wantsWhole = field->kind == FieldKind::Int || field->kind == FieldKind::Long;
+        const Range range{field->minimum().toDouble(), field->maximum().toDouble()};
+        return readNumber(text, field->unit(), wantsWhole, range, item, reason);
     }
-    return list->SetItems(items);
-}
-
-QString readableList(const StringList& list)
-{
-    QStringList items;
-    for (const QString& item : list.GetItems())
-        items.append(item);
-    return items.join(QLatin1String(", "));
+    *item = enumerationName(field, text);
+    if (!field || !field->enumeration || field->enumeration->number(*item) >= 0)
+        return true;
+    return refuse(reason, Texts::tr("\"%1\" is none of %2")
+                              .arg(text, field->enumeration->allGuiTexts().join(QLatin1String(", "))));
 }
 } // namespace
 
 namespace JobXml {
+
+bool assignItems(StringList* list, const Field* field, const QStringList& texts, QString* reason)
+{
+    QVector<QString> items;
+    for (const QString& text : texts) {
+        const QString trimmed = text.trimmed();
+        QString item;
+        if (!trimmed.isEmpty() && !readItem(field, trimmed, &item, reason))
+            return false;
+        if (!trimmed.isEmpty())
+            items.append(item);
+    }
+    return list->SetItems(items);
+}
+
+QStringList readableItems(const StringList& list, const Field* field)
+{
+    QStringList texts;
+    const QVector<QString> items = list.GetItems();
+    for (const QString& item : items) {
+        const int number = field && field->enumeration ? field->enumeration->number(item) : -1;
+        texts.append(number < 0 ? readableQuantity(item, unitOf(field))
+                                : field->enumeration->guiText(number));
+    }
+    return texts;
+}
 
 bool assignText(ValueBase* value, const Field* field, const QString& text, QString* reason)
 {
     if (auto* selection = dynamic_cast<ValueSelection*>(value))
         return assignSelection(selection, field, text, reason);
     if (auto* list = dynamic_cast<StringList*>(value))
-        return assignList(list, text);
+        return assignItems(list, field, text.split(QLatin1Char(',')), reason);
     if (dynamic_cast<ValueBool*>(value))
         return assignTruth(value, text, reason);
     if (isWhole(*value) || dynamic_cast<ValueDouble*>(value))
@@ -181,7 +212,7 @@ bool assignText(ValueBase* value, const Field* field, const QString& text, QStri
 QString readableValue(const ValueBase& value, const Field* field)
 {
     if (const auto* list = dynamic_cast<const StringList*>(&value))
-        return readableList(*list);
+        return QStringList(list->GetItems().toList()).join(QLatin1String(", "));
     return readableQuantity(value.GetText(), unitOf(field));
 }
 

@@ -3,7 +3,9 @@
 #include <jobxml/jobxml_export.h>
 #include <QString>
 
-class ValueBase;
+#include <QStringList>
+#include <values/valuelist.h>
+
 namespace REPORTGENERATOR {
 struct Field;
 }
@@ -18,6 +20,17 @@ namespace JobXml {
 /// \return false, with the value as it was, if the text does not fit
 JOBXML_EXPORT bool assignText(ValueBase* value, const REPORTGENERATOR::Field* field, const QString& text,
                               QString* reason);
+
+/// Gives a list what texts say, one for each item: numbers with an optional unit, values of an enumeration by their
+/// names or by what the user is shown for them. Empty texts are left out.
+/// \param field   the field that the list stands for; may be null
+/// \param reason  receives why a text was refused, a part of a sentence; may not be null
+/// \return false, with the list as it was, if one of the texts does not fit
+JOBXML_EXPORT bool assignItems(StringList* list, const REPORTGENERATOR::Field* field,
+                               const QStringList& texts, QString* reason);
+
+/// The items of a list as the user is shown them: with units, and the texts of an enumeration. assignItems() takes them.
+JOBXML_EXPORT QStringList readableItems(const StringList& list, const REPORTGENERATOR::Field* field);
 
 /// The value, with its unit, in readable form.
 JOBXML_EXPORT QString readableValue(const ValueBase& value, const REPORTGENERATOR::Field* field);

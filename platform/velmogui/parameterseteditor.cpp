@@ -2,7 +2,6 @@
 #include <velmogui/valuecontrol.h>
 
 #include <jobxml/settings.h>
-#include <jobxml/valuetext.h>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -26,18 +25,6 @@ QString pathOfGroup(const QString& field)
 const Field* fieldOf(const ElementTable* table, const QString& path)
 {
     return table ? REPORTGENERATOR::findField(*table, path) : nullptr;
-}
-
-// Help, range and unit of a value.
-QString helpOf(const ValueBase& value, const Field* field)
-{
-    QStringList lines;
-    if (field && !field->help().isEmpty())
-        lines.append(field->help());
-    const QString range = JobXml::readableRange(value, field);
-    if (!range.isEmpty())
-        lines.append(range);
-    return lines.join(QLatin1Char('\n'));
 }
 
 QLabel* newFaultLabel(const ValueControl* control, QWidget* parent)
@@ -68,12 +55,19 @@ ParameterSetEditor::ParameterSetEditor(const QString& name, Node* values, QWidge
     const REPORTGENERATOR::ParameterSet* const set = JobXml::findParameterSet(name);
     for (ValueBase* value : values->GetValues())
         addValue(value, set ? set->table : nullptr);
+    alignColumns();
     layout->addStretch();
 }
 
 ValueControl* ParameterSetEditor::control(const QString& field) const
 {
     return m_controls.value(field);
+}
+
+void ParameterSetEditor::setReadOnly(bool readOnly)
+{
+    for (ValueControl* control : qAsConst(m_controls))
+        control->setReadOnly(readOnly);
 }
 
 void ParameterSetEditor::setMark(const QString& field, const QString& mark, const QString& toolTip)
@@ -93,24 +87,34 @@ void ParameterSetEditor::addValue(ValueBase* value, const ElementTable* table)
     QGridLayout* const grid = groupOf(pathOfGroup(id), table);
     QWidget* const parent = grid->parentWidget();
     const QString text = field ? field->label() : id;
-    const QString help = helpOf(*value, field);
     auto* const label = new QLabel(tr("%1:").arg(text), parent);
     auto* const control = new ValueControl(value, field, text, parent);
     control->widget()->setObjectName(QStringLiteral("%1/%2").arg(m_name, id));
-    for (QWidget* widget : {static_cast<QWidget*>(label), control->widget()}) {
-        widget->setToolTip(help);
-        widget->setWhatsThis(help);
-    }
+    label->setToolTip(field ? field->help() : QString());
+    label->setWhatsThis(label->toolTip());
     label->setBuddy(control->widget());
     auto* const mark = new QLabel(parent);
     mark->hide();
     const int row = grid->rowCount();
-    grid->addWidget(label, row, COLUMN_LABEL, Qt::AlignTop);
+    const bool isTall = control->widget()->sizeHint().height() > 2 * label->sizeHint().height();
+    grid->addWidget(label, row, COLUMN_LABEL, isTall ? Qt::AlignTop : Qt::AlignVCenter);
     grid->addWidget(control->widget(), row, COLUMN_CONTROL);
     grid->addWidget(mark, row, COLUMN_NOTE);
     grid->addWidget(newFaultLabel(control, parent), row + 1, COLUMN_CONTROL);
     m_controls.insert(id, control);
     m_marks.insert(id, mark);
+}
+
+// The controls of all groups stand in one column.
+void ParameterSetEditor::alignColumns()
+{
+    int width = 0;
+    for (const QLabel* label : findChildren<QLabel*>()) {
+        if (label->buddy())
+            width = qMax(width, label->sizeHint().width());
+    }
+    for (QGridLayout* grid : qAsConst(m_groups))
+        grid->setColumnMinimumWidth(COLUMN_LABEL, width);
 }
 
 // The grid in which the fields of a group stand; groups come in the order of their first field.
@@ -131,7 +135,6 @@ QGridLayout* ParameterSetEditor::groupOf(const QString& path, const ElementTable
         box->setTitle(titles.join(QStringLiteral(" \u2013 ")));
     }
     auto* const grid = new QGridLayout(box);
-    grid->setColumnMinimumWidth(COLUMN_LABEL, fontMetrics().averageCharWidth() * 22);
     grid->setColumnStretch(COLUMN_CONTROL, 1);
     static_cast<QVBoxLayout*>(layout())->addWidget(box);
     m_groups.insert(path, grid);

@@ -33,11 +33,14 @@ public:
 
     /// The control of a value, by the path of its field; null if there is none.
     ValueControl* control(const QString& field) const;
+    /// Whether its values can only be looked at; at first they can be changed.
+    void setReadOnly(bool readOnly);
     /// A short text beside a control that says where its value comes from; empty takes it away.
     void setMark(const QString& field, const QString& mark, const QString& toolTip);
 
 private:
     void addValue(ValueBase* value, const REPORTGENERATOR::ElementTable* table);
+    void alignColumns();
     QGridLayout* groupOf(const QString& path, const REPORTGENERATOR::ElementTable* table);
 
     QString m_name;

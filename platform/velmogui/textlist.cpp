@@ -28,6 +28,7 @@ TextList::TextList(QWidget* parent)
     connect(m_remove, &QToolButton::clicked, this, &TextList::removeCurrent);
     connect(m_list, &QListWidget::itemChanged, this, &TextList::textsChanged);
     m_list->installEventFilter(this);
+    setReadOnly(false);
     auto* const buttons = new QVBoxLayout;
     buttons->addWidget(m_add);
     buttons->addWidget(m_remove);
@@ -64,9 +65,20 @@ void TextList::setName(const QString& name)
     m_remove->setAccessibleName(tr("%1: remove the entry").arg(name));
 }
 
+void TextList::setReadOnly(bool readOnly)
+{
+    m_isReadOnly = readOnly;
+    m_list->setEditTriggers(readOnly ? QAbstractItemView::NoEditTriggers
+                                     : QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    m_add->setDisabled(readOnly);
+    m_remove->setDisabled(readOnly);
+}
+
 bool TextList::eventFilter(QObject* watched, QEvent* event)
 {
     const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+    if (m_isReadOnly)
+        return QWidget::eventFilter(watched, event);
     if (key == Qt::Key_Insert)
         add();
     else if (key == Qt::Key_Delete)

@@ -23,6 +23,7 @@ public:
     void setTexts(const QStringList& texts);
     /// For screen readers: the list and its buttons.
     void setName(const QString& name);
+    void setReadOnly(bool readOnly);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -38,6 +39,7 @@ private:
     QListWidget* m_list;
     QToolButton* m_add;
     QToolButton* m_remove;
+    bool m_isReadOnly = false;
 };
 
 } // namespace VelmoGui

@@ -8,6 +8,7 @@
 #include <QDoubleSpinBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <reportlayer/elementtable.h>
 #include <values/value.h>
@@ -51,24 +52,39 @@ public:
     }
 };
 
-// Escape brings back what the value is.
-class EscapeFilter : public QObject
+// Keys that belong to the control rather than to its widget.
+class KeyFilter : public QObject
 {
 public:
-    EscapeFilter(const std::function<bool()>& revert, QObject* parent)
+    using Reaction = std::function<bool(int key)>; // Whether it took the key.
+
+    KeyFilter(const Reaction& reaction, QObject* parent)
         : QObject(parent)
-        , m_revert(revert)
+        , m_reaction(reaction)
     {
     }
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
-               m_revert();
+        return event->type() == QEvent::KeyPress && m_reaction(static_cast<QKeyEvent*>(event)->key());
     }
 
 private:
-    std::function<bool()> m_revert;
+    Reaction m_reaction;
+};
+
+// Takes point and comma as decimal sign, whatever the locale.
+class RealBox : public QDoubleSpinBox
+{
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+    QValidator::State validate(QString& input, int& position) const override
+    {
+        input.replace(QLatin1Char('.'), locale().decimalPoint());
+        input.replace(QLatin1Char(','), locale().decimalPoint());
+        return QDoubleSpinBox::validate(input, position);
+    }
 };
 } // namespace
 
@@ -79,13 +95,14 @@ ValueControl::ValueControl(ValueBase* value, const REPORTGENERATOR::Field* field
     , m_field(field)
 {
     const auto* const real = dynamic_cast<NumericDouble*>(value);
+    const bool hasLine = isFrequency();
     if (dynamic_cast<ValueBool*>(value))
         makeCheckBox(parent);
     else if (dynamic_cast<ValueSelection*>(value))
         makeComboBox(parent);
-    else if (dynamic_cast<NumericInt*>(value))
+    else if (!hasLine && dynamic_cast<NumericInt*>(value))
         makeSpinBox(parent);
-    else if (real && real->GetStep() > 0)
+    else if (!hasLine && real && real->GetStep() > 0)
         makeDoubleSpinBox(parent);
     else if (dynamic_cast<StringList*>(value))
         makeList(parent);
@@ -95,8 +112,11 @@ ValueControl::ValueControl(ValueBase* value, const REPORTGENERATOR::Field* field
     if (auto* const list = qobject_cast<TextList*>(m_widget))
         list->setName(name);
     m_widget->installEventFilter(new WheelGuard(this));
+    m_widget->installEventFilter(
+        new KeyFilter([this](int key) { return key == Qt::Key_Escape && revert(); }, this));
     value->AddObserver(this);
     showValue();
+    showHelp();
 }
 
 ValueControl::~ValueControl()
@@ -113,6 +133,21 @@ void ValueControl::Update(Observable*, TChangeCode code)
     }
     if (!m_isCommitting)
         showValue();
+    if (code == CHANGE_RANGE || code == CHANGE_ITEMS)
+        showHelp();
+}
+
+void ValueControl::setReadOnly(bool readOnly)
+{
+    m_isReadOnly = readOnly;
+    if (auto* const edit = qobject_cast<QLineEdit*>(m_widget))
+        edit->setReadOnly(readOnly);
+    else if (auto* const box = qobject_cast<QAbstractSpinBox*>(m_widget))
+        box->setReadOnly(readOnly);
+    else if (auto* const list = qobject_cast<TextList*>(m_widget))
+        list->setReadOnly(readOnly);
+    else
+        m_widget->setEnabled(!readOnly && m_value);
 }
 
 void ValueControl::makeCheckBox(QWidget* parent)
@@ -160,7 +195,7 @@ void ValueControl::makeSpinBox(QWidget* parent)
 
 void ValueControl::makeDoubleSpinBox(QWidget* parent)
 {
-    auto* const box = new QDoubleSpinBox(parent);
+    auto* const box = new RealBox(parent);
     box->setSuffix(unit());
     box->setKeyboardTracking(false);
     connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this](double number) {
@@ -181,11 +216,12 @@ void ValueControl::makeList(QWidget* parent)
 {
     auto* const list = new TextList(parent);
     connect(list, &TextList::textsChanged, this, [this, list] {
-        if (m_value)
-            static_cast<StringList*>(m_value)->SetItems(list->texts().toVector(), this);
+        commit([this, list](QString* reason) {
+            return JobXml::assignItems(static_cast<StringList*>(m_value), m_field, list->texts(), reason);
+        });
     });
     m_show = [this, list] {
-        list->setTexts(QStringList(static_cast<StringList*>(m_value)->GetItems().toList()));
+        list->setTexts(JobXml::readableItems(*static_cast<StringList*>(m_value), m_field));
     };
     m_widget = list;
 }
@@ -197,12 +233,8 @@ void ValueControl::makeLineEdit(QWidget* parent)
         if (edit->isModified())
             commit(edit->text());
     });
-    edit->installEventFilter(new EscapeFilter(
-        [this, edit] {
-            const bool isEdited = edit->isModified() || !m_fault.isEmpty();
-            showValue();
-            return isEdited;
-        },
+    edit->installEventFilter(new KeyFilter(
+        [this](int key) { return (key == Qt::Key_Up && step(1)) || (key == Qt::Key_Down && step(-1)); },
         this));
     m_show = [this, edit] {
         const bool isText = dynamic_cast<ValueString*>(m_value) != nullptr;
@@ -223,13 +255,59 @@ void ValueControl::showValue()
     setFault(QString());
 }
 
+// Help, what the value may be, and why it was not taken.
+void ValueControl::showHelp()
+{
+    QStringList lines;
+    if (!m_fault.isEmpty())
+        lines.append(m_fault);
+    if (m_field && !m_field->help().isEmpty())
+        lines.append(m_field->help());
+    const QString range = m_value ? JobXml::readableRange(*m_value, m_field) : QString();
+    if (!range.isEmpty())
+        lines.append(range);
+    m_widget->setToolTip(lines.join(QLatin1Char('\n')));
+    m_widget->setWhatsThis(m_widget->toolTip());
+    m_widget->setAccessibleDescription(lines.value(0));
+}
+
+// Whether there was something to bring back.
+bool ValueControl::revert()
+{
+    const auto* const edit = m_widget->findChild<QLineEdit*>();
+    const auto* const line = edit ? edit : qobject_cast<QLineEdit*>(m_widget);
+    const bool isEdited = !m_fault.isEmpty() || (line && line->isModified());
+    if (isEdited)
+        showValue();
+    return isEdited;
+}
+
+// Whether the value goes by steps.
+bool ValueControl::step(int steps)
+{
+    const auto* const number = dynamic_cast<NumericView*>(m_value);
+    if (!number || number->GetDoubleStep() <= 0 || m_isReadOnly)
+        return false;
+    const double wanted = number->GetDoubleValue() + steps * number->GetDoubleStep();
+    commit(ValueText::fromDouble(qBound(number->GetDoubleMin(), wanted, number->GetDoubleMax())));
+    return true;
+}
+
 void ValueControl::commit(const QString& text)
+{
+    commit([this, text](QString* reason) { return JobXml::assignText(m_value, m_field, text, reason); });
+}
+
+void ValueControl::commit(const std::function<bool(QString*)>& assign)
 {
     if (!m_value)
         return;
+    const QPointer<ValueControl> self(this); // Who hears of the change may close the editor.
     QString reason;
     m_isCommitting = true;
-    const bool isTaken = JobXml::assignText(m_value, m_field, text, &reason);
+    const bool isTaken = assign(&reason);
+    if (!self)
+        return;
     m_isCommitting = false;
     if (isTaken)
         showValue();
@@ -242,8 +320,13 @@ void ValueControl::setFault(const QString& fault)
     if (fault == m_fault)
         return;
     m_fault = fault;
-    m_widget->setAccessibleDescription(fault);
+    showHelp();
     emit faultChanged(fault);
+}
+
+bool ValueControl::isFrequency() const
+{
+    return m_field && m_field->unit() == QLatin1String("Hz");
 }
 
 QString ValueControl::unit() const

@@ -18,10 +18,12 @@ namespace VelmoGui {
 
 /// The control of one value: shows it, follows its changes, and sets it when the user is done. Which kind of control
 /// it is depends on the value: a check box, a combo box for what can be chosen, a spin box for whole numbers of 32
-/// bits and for reals with a step, a list, or a line of text, in which numbers take a unit ("145.5M", "145,5 MHz").
+/// bits and for reals with a step, a list, or a line of text, in which numbers take a unit ("145.5M", "145,5 MHz");
+/// all frequencies have a line. Return or leaving takes the text, Escape brings back the value; in a line the
+/// keys Up and Down go by the step of the value.
 ///
-/// What does not fit is not taken: it stays in the control with the reason shown beside it, and the value keeps what it
-/// has. A value that goes away leaves a disabled control. GUI thread only.
+/// What does not fit is not taken: it stays in the control, the reason is its tool tip and its description for screen
+/// readers, and the value keeps what it has. A value that goes away leaves a disabled control. GUI thread only.
 class VELMOGUI_EXPORT ValueControl : public QObject, public IObserver
 {
     Q_OBJECT
@@ -36,6 +38,8 @@ public:
     QWidget* widget() const { return m_widget; }
     /// Why the text in the control was not taken; empty if the value is what is shown.
     const QString& fault() const { return m_fault; }
+    /// What can be seen, copied and reached, but not changed. At first it can be changed.
+    void setReadOnly(bool readOnly);
 
     void Update(Observable* sender, TChangeCode code) override;
 
@@ -51,7 +55,12 @@ private:
     void makeList(QWidget* parent);
     void makeLineEdit(QWidget* parent);
     void showValue();
+    void showHelp();
+    bool revert();
+    bool step(int steps);
+    bool isFrequency() const;
     void commit(const QString& text);
+    void commit(const std::function<bool(QString*)>& assign);
     void setFault(const QString& fault);
     QString unit() const;
 
@@ -61,6 +70,7 @@ private:
     std::function<void()> m_show; // Brings the value into the widget.
     QString m_fault;
     bool m_isCommitting = false;
+    bool m_isReadOnly = false;
 };
 
 } // namespace VelmoGui

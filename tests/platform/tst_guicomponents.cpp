@@ -1,3 +1,4 @@
+#include <support/palettes.h>
 #include <support/testmain.h>
 
 #include <jobxml/parametersettext.h>
@@ -165,6 +166,19 @@ private slots:
     void groupsHaveTitles();
     void marksAreShown();
     void iconsDiffer();
+    void escapeInASpinBox();
+    void keysStepThroughFrequencies();
+    void everyFrequencyHasALine();
+    void listTakesUnits();
+    void listKeepsWhatDoesNotFit();
+    void eitherDecimalSign_data();
+    void eitherDecimalSign();
+    void readOnly();
+    void toolTipFollowsRangeAndFault();
+    void controlsStandInOneColumn();
+    void editorClosedByItsOwnChange();
+    void nothingIsCut_data();
+    void nothingIsCut();
 
 private:
     void components();
@@ -524,6 +538,244 @@ void TstGuiComponents::iconsDiffer()
         QVERIFY(!images.contains(image));
         images.append(image);
     }
+}
+
+void TstGuiComponents::escapeInASpinBox()
+{
+    Node node;
+    node.SetName("Unknown");
+    auto* const number = addNumber<NumericInt>(&node, "n", 0, 100, 1, 5);
+    ParameterSetEditor editor("Unknown", &node);
+    auto* const box = qobject_cast<QSpinBox*>(editor.control("n")->widget());
+    box->selectAll();
+    QTest::keyClicks(box, "42");
+    QCOMPARE(box->text(), QString("42"));
+    QTest::keyClick(box, Qt::Key_Escape);
+    QCOMPARE(box->text(), QString("5"));
+    QCOMPARE(number->GetValue(), 5);
+}
+
+void TstGuiComponents::keysStepThroughFrequencies()
+{
+    Node node;
+    node.SetName("TunerSettings");
+    auto* const frequency = addNumber<NumericInt64>(&node, "CenterFrequency", 9000, 30e6, 25000, 29.99e6);
+    ParameterSetEditor editor("TunerSettings", &node);
+    auto* const edit = qobject_cast<QLineEdit*>(editor.control("CenterFrequency")->widget());
+    QTest::keyClick(edit, Qt::Key_Down);
+    QCOMPARE(frequency->GetValue(), 29965000LL);
+    QCOMPARE(edit->text(), QString("29.965 MHz"));
+    QTest::keyClick(edit, Qt::Key_Up);
+    QTest::keyClick(edit, Qt::Key_Up);
+    QCOMPARE(frequency->GetValue(), 30000000LL);
+    frequency->SetStep(0);
+    QTest::keyClick(edit, Qt::Key_Down);
+    QCOMPARE(frequency->GetValue(), 30000000LL);
+}
+
+void TstGuiComponents::everyFrequencyHasALine()
+{
+    Node node;
+    node.SetName("TunerSettings");
+    addNumber<NumericDouble>(&node, "CenterFrequency", 9000, 30e6, 0.5, 8e6);
+    addNumber<NumericInt>(&node, "Bandwidth", 0, 250000, 100, 6000);
+    ParameterSetEditor editor("TunerSettings", &node);
+    const auto text = [&](const QString& id) {
+        const auto* const edit = qobject_cast<QLineEdit*>(editor.control(id)->widget());
+        return edit ? edit->text() : QString();
+    };
+    QCOMPARE(text("CenterFrequency"), QString("8 MHz"));
+    QCOMPARE(text("Bandwidth"), QString("6 kHz"));
+}
+
+void TstGuiComponents::listTakesUnits()
+{
+    Node node;
+    node.SetName("ScanSettings");
+    auto* const list = new StringList;
+    list->SetName("SuppressedFrequency");
+    node.AddChild(list, QString());
+    list->PushBack("118000000");
+    ParameterSetEditor editor("ScanSettings", &node);
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowActive(&editor));
+    QWidget* const control = editor.control("SuppressedFrequency")->widget();
+    const auto* const view = control->findChild<QListWidget*>();
+    QCOMPARE(view->item(0)->text(), QString("118 MHz"));
+    changeByKeyboard(control, "121,5 MHz");
+    QCOMPARE(list->GetItems(), (QVector<QString>{"118000000", "121500000"}));
+    QCOMPARE(view->item(1)->text(), QString("121.5 MHz"));
+}
+
+void TstGuiComponents::listKeepsWhatDoesNotFit()
+{
+    Node node;
+    node.SetName("ScanSettings");
+    auto* const list = new StringList;
+    list->SetName("SuppressedFrequency");
+    node.AddChild(list, QString());
+    ParameterSetEditor editor("ScanSettings", &node);
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowActive(&editor));
+    const ValueControl* const control = editor.control("SuppressedFrequency");
+    auto* const view = control->widget()->findChild<QListWidget*>();
+    changeByKeyboard(control->widget(), "channel 16");
+    QCOMPARE(list->GetItemCount(), 0);
+    QCOMPARE(view->count(), 1);
+    QCOMPARE(view->item(0)->text(), QString("channel 16"));
+    QVERIFY(control->fault().contains("channel 16"));
+    QTest::keyClick(view, Qt::Key_Escape);
+    QCOMPARE(view->count(), 0);
+    QCOMPARE(control->fault(), QString());
+}
+
+void TstGuiComponents::eitherDecimalSign_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("typed");
+    for (const QLocale& locale : {QLocale(QLocale::English), QLocale(QLocale::German)}) {
+        for (const char* typed : {"2.5", "2,5"})
+            QTest::addRow("%s, %s", qPrintable(locale.name()), typed) << locale << typed;
+    }
+}
+
+void TstGuiComponents::eitherDecimalSign()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, typed);
+    Node node;
+    node.SetName("Unknown");
+    auto* const number = addNumber<NumericDouble>(&node, "n", 0, 9, 0.5, 1);
+    ParameterSetEditor editor("Unknown", &node);
+    auto* const box = qobject_cast<QDoubleSpinBox*>(editor.control("n")->widget());
+    box->setLocale(locale);
+    box->selectAll();
+    QTest::keyClicks(box, typed);
+    QTest::keyClick(box, Qt::Key_Return);
+    QCOMPARE(number->GetValue(), 2.5);
+}
+
+void TstGuiComponents::readOnly()
+{
+    Node node;
+    node.SetName("ScanSettings");
+    fill(&node, "ScanSettings");
+    ParameterSetEditor editor("ScanSettings", &node);
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowActive(&editor));
+    editor.setReadOnly(true);
+    const QString before = ParameterSetText::toText(node);
+    for (const QString& path : ParameterSetText::fieldPaths("ScanSettings"))
+        changeByKeyboard(editor.control(path)->widget(), "118000000");
+    QCOMPARE(ParameterSetText::toText(node), before);
+    editor.setReadOnly(false);
+    changeByKeyboard(editor.control("SuppressedFrequency")->widget(), "118000000");
+    QVERIFY(ParameterSetText::toText(node) != before);
+}
+
+void TstGuiComponents::toolTipFollowsRangeAndFault()
+{
+    Node node;
+    node.SetName("TunerSettings");
+    auto* const frequency = addNumber<NumericInt64>(&node, "CenterFrequency", 9000, 30e6, 1, 8e6);
+    ParameterSetEditor editor("TunerSettings", &node);
+    const ValueControl* const control = editor.control("CenterFrequency");
+    auto* const edit = qobject_cast<QLineEdit*>(control->widget());
+    const QString help = ParameterSetText::field("TunerSettings", "CenterFrequency")->help();
+    QCOMPARE(edit->toolTip(), help + "\n9 kHz … 30 MHz");
+    QCOMPARE(edit->accessibleDescription(), help);
+    frequency->SetMinMax(100000, 10000000, 1);
+    QCOMPARE(edit->toolTip(), help + "\n100 kHz … 10 MHz");
+    edit->selectAll();
+    QTest::keyClicks(edit, "20M");
+    QTest::keyClick(edit, Qt::Key_Return);
+    QVERIFY(edit->toolTip().startsWith(control->fault()));
+    bool isInline = false;
+    for (const QLabel* label : editor.findChildren<QLabel*>())
+        isInline = isInline || (!label->isHidden() && label->text() == control->fault());
+    QVERIFY(isInline);
+    QTest::keyClick(edit, Qt::Key_Escape);
+    QCOMPARE(edit->toolTip(), help + "\n100 kHz … 10 MHz");
+}
+
+void TstGuiComponents::controlsStandInOneColumn()
+{
+    Node node;
+    node.SetName("ScanSettings");
+    fill(&node, "ScanSettings");
+    ParameterSetEditor editor("ScanSettings", &node);
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&editor));
+    QSet<int> columns;
+    for (const char* path :
+         {"Mode", "SuppressedFrequency", "Range.StartFrequency", "HoldCriteria.HoldTime"}) {
+        const ValueControl* const control = editor.control(path);
+        QVERIFY2(control, path);
+        columns.insert(control->widget()->mapTo(&editor, QPoint()).x());
+    }
+    QCOMPARE(columns.size(), 1);
+}
+
+void TstGuiComponents::editorClosedByItsOwnChange()
+{
+    struct Closer : IObserver
+    {
+        void Update(Observable*, TChangeCode) override { m_editor.reset(); }
+        std::unique_ptr<ParameterSetEditor> m_editor;
+    } closer;
+    Node node;
+    node.SetName("Unknown");
+    auto* const number = addNumber<NumericInt64>(&node, "n", 0, 100, 1, 5);
+    closer.m_editor = std::make_unique<ParameterSetEditor>("Unknown", &node);
+    ValueControl* const control = closer.m_editor->control("n");
+    // Without its widget's own event on the stack, as a rule that closes the editor would do it.
+    number->AddObserver(&closer);
+    QVERIFY(control);
+    number->SetValue(7);
+    QVERIFY(!closer.m_editor);
+    QCOMPARE(number->GetValue(), 7LL);
+}
+
+void TstGuiComponents::nothingIsCut_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<bool>("dark");
+    for (auto component = COMPONENTS.cbegin(); component != COMPONENTS.cend(); ++component) {
+        for (const QString& set : *component) {
+            for (const bool dark : {false, true})
+                QTest::addRow("%s-%s-%s", qPrintable(component.key()), qPrintable(set),
+                              dark ? "dark" : "light")
+                    << component.key() << set << dark;
+        }
+    }
+}
+
+// JED_PICTURES in the environment names a folder for pictures of what is looked at.
+void TstGuiComponents::nothingIsCut()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, set);
+    QFETCH(bool, dark);
+    JedTest::useColours(dark);
+    Node node;
+    node.SetName(set);
+    fill(&node, set);
+    QVERIFY(ParameterSetText::fromText(node, QString()));
+    const std::unique_ptr<QWidget> widget(load(name)->CreateWidget(set, &node, nullptr));
+    widget->show();
+    QVERIFY(QTest::qWaitForWindowExposed(widget.get()));
+    for (const QLabel* label : widget->findChildren<QLabel*>()) {
+        if (label->isVisible())
+            QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
+    }
+    for (const QComboBox* box : widget->findChildren<QComboBox*>())
+        QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable(box->objectName()));
+    const QImage picture = widget->grab().toImage();
+    QCOMPARE(picture.pixelColor(1, 1).lightness() < 128, dark);
+    const QString folder = qEnvironmentVariable("JED_PICTURES");
+    if (!folder.isEmpty())
+        QVERIFY(picture.save(QString("%1/%2.png").arg(folder, QString::fromUtf8(QTest::currentDataTag()))));
 }
 
 JED_TEST_MAIN(TstGuiComponents)
