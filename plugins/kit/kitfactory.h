@@ -49,6 +49,16 @@ public:
     QString description() const override;
     QPixmap* getSettingIcon(const QString& type) const override;
     QString manual() const override;
+    /// Whether a declared type carries what frequency-store lists hold: settings of tuner, digital demodulator or
+    /// short-time signals.
+    bool supportsImportProfile() const override;
+    /// For sub-jobs that carry any of these.
+    bool canImportProfile(const JEDVEPLUGIN::ISubSetting* setting) override;
+    /// Sets the sub-job to the first entry of the list and makes a copy of it for each further one, a thousand entries
+    /// at most. Sub-jobs are named by the entries' profiles.
+    /// \return the copies, which are top-level settings; empty, with nothing changed, for a file that is no such list
+    QList<JEDVEPLUGIN::ISubSetting*> importProfile(const QString& file,
+                                                   JEDVEPLUGIN::ISubSetting* parent) override;
     /// Sub-jobs that are made from now on have the rules of the declared file.
     void initializeRuleEngine() override;
     /// Looks for the receivers first.

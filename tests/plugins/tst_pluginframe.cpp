@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTemporaryDir>
 
 using JedTest::LoadedPlugin;
 using JEDVEPLUGIN::ISubSetting;
@@ -34,6 +35,10 @@ private slots:
     void exampleJobsStayAsTheyAre();
     void everyExampleJobHasItsPlugin_data();
     void everyExampleJobHasItsPlugin();
+    void listsOfFrequenciesAreImported_data() { plugins(); }
+    void listsOfFrequenciesAreImported();
+    void whatCannotBeImported_data() { plugins(); }
+    void whatCannotBeImported();
     void editingTellsAndCounts_data() { plugins(); }
     void editingTellsAndCounts();
     void parameterSetTextsUndo_data() { plugins(); }
@@ -93,6 +98,22 @@ QString withFrequency(QString text, const QString& hertz)
                         "<CenterFrequency>" + hertz + "</CenterFrequency>");
 }
 
+/// A frequency-store list with an entry for each frequency.
+/// \param tuner  text of its other settings
+QString writeList(const QString& path, const QStringList& frequencies, const QString& tuner)
+{
+    QString text = "<FrequencyStoreList><Name>List</Name>";
+    for (int i = 0; i < frequencies.size(); ++i) {
+        text += QString("<FrequencyStoreEntry>%1<Profile_Data><ProfileID>%2</ProfileID>"
+                        "<ProfileName>Channel %2</ProfileName></Profile_Data></FrequencyStoreEntry>")
+                    .arg(withFrequency(tuner, frequencies.at(i)), QString::number(i + 1));
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write((text + "</FrequencyStoreList>").toUtf8()) < 0)
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
 void setName(ISubSetting* node, const QString& name)
 {
     QVERIFY(node->setDisplayName(name));
@@ -138,7 +159,8 @@ void TstPluginFrame::aFreshFactory()
     QVERIFY(loaded->isAppendable(nullptr, SUB_JOB));
     QCOMPARE(loaded->getMaxCount(SUB_JOB), std::numeric_limits<int>::max());
     QCOMPARE(loaded->getMaxCount("unknown"), std::numeric_limits<int>::max());
-    QVERIFY(!loaded->supportsImportProfile());
+    QVERIFY(loaded->supportsImportProfile());
+    QVERIFY(!loaded->canImportProfile(nullptr));
     QCOMPARE(loaded->manual(), QString());
 }
 
@@ -283,6 +305,62 @@ void TstPluginFrame::everyExampleJobHasItsPlugin()
         for (const JobXml::Subjob& subjob : job.GetSubjob())
             QCOMPARE(loaded->claimsSubjob(subjob), name == plugin);
     }
+}
+
+void TstPluginFrame::listsOfFrequenciesAreImported()
+{
+    QFETCH(QString, plugin);
+    const LoadedPlugin loaded(plugin);
+    ISubSetting* const node = create(loaded);
+    const QTemporaryDir folder;
+    const QString file = writeList(folder.filePath("list.xml"), {"5000000", "7000000", "6000000"},
+                                   carrierOf(node, TUNER)->parameterSetText(TUNER));
+    QVERIFY(loaded->canImportProfile(node));
+    loaded->setModified(false);
+    const QList<ISubSetting*> made = loaded->importProfile(file, node);
+    QCOMPARE(made.size(), 2);
+    QCOMPARE(loaded->topLevelSettings(), QList<ISubSetting*>({node}) + made);
+    QVERIFY(loaded->isModified());
+    const auto frequency = [](ISubSetting* subjob) {
+        return carrierOf(subjob, TUNER)
+            ->parameterSetText(TUNER)
+            .section("<CenterFrequency>", 1)
+            .section('<', 0, 0);
+    };
+    QCOMPARE(node->getDisplayName(), QString("Channel 1"));
+    QCOMPARE(frequency(node), QString("5000000"));
+    QCOMPARE(made.at(0)->getDisplayName(), QString("Channel 2"));
+    QCOMPARE(frequency(made.at(0)), QString("7000000"));
+    QCOMPARE(made.at(1)->getDisplayName(), QString("Channel 3"));
+    QCOMPARE(frequency(made.at(1)), QString("6000000"));
+    QVERIFY(node->problems().isEmpty());
+}
+
+void TstPluginFrame::whatCannotBeImported()
+{
+    QFETCH(QString, plugin);
+    const LoadedPlugin loaded(plugin);
+    ISubSetting* const node = create(loaded);
+    const QTemporaryDir folder;
+    const QString file = writeList(folder.filePath("list.xml"), {"5000000", "6000000"}, "<FFM_Settings/>");
+    const QString empty = writeList(folder.filePath("empty.xml"), {}, QString());
+    loaded->setModified(false);
+    JedTest::TraceRecorder traces; // Why a file is no list.
+    QVERIFY(loaded->importProfile(folder.filePath("missing.xml"), node).isEmpty());
+    QVERIFY(loaded->importProfile(JED_SOURCE_DIR "/installation/Jobs/search.xml", node).isEmpty());
+    QVERIFY(loaded->importProfile(empty, node).isEmpty());
+    QVERIFY(loaded->importProfile(file, nullptr).isEmpty());
+    const LoadedPlugin other(plugin, "/Other/");
+    QVERIFY(!other->canImportProfile(node));
+    QVERIFY(other->importProfile(file, node).isEmpty());
+    loaded->setReadOnly(true);
+    QVERIFY(!loaded->canImportProfile(node));
+    QVERIFY(loaded->importProfile(file, node).isEmpty());
+    loaded->setReadOnly(false);
+    QVERIFY(!loaded->isModified());
+    QCOMPARE(loaded->getSubjobCount(), 1);
+    ISubSetting* const bare = loaded->readSubjob(JedTest::subjobOn("HT720", "HF-2"), nullptr);
+    QVERIFY(!loaded->canImportProfile(bare)); // It carries nothing yet.
 }
 
 void TstPluginFrame::editingTellsAndCounts()
