@@ -26,6 +26,10 @@ using JEDVEPLUGIN::ISubSetting;
 using Session::Findings;
 using Session::JobSession;
 
+namespace {
+constexpr int DOCK_HEIGHT = 150;
+}
+
 EditorWindow::EditorWindow(Session::PluginHost* host, JobSession* session)
     : m_host(host)
     , m_session(session)
@@ -133,6 +137,7 @@ void EditorWindow::buildDocks()
     tabifyDockWidget(problems, receivers);
     tabifyDockWidget(receivers, trace);
     problems->raise();
+    resizeDocks({problems}, {DOCK_HEIGHT}, Qt::Vertical);
     connect(m_problems, &ProblemsPane::problemChosen, this, &EditorWindow::showProblem);
     connect(m_problems, &ProblemsPane::countChanged, this, [problems](int count) {
         problems->setWindowTitle(count == 0 ? tr("Problems") : tr("Problems (%1)").arg(count));

@@ -36,6 +36,9 @@ public:
     bool openFile(const QString& path);
     void setCurrentSetting(JEDVEPLUGIN::ISubSetting* setting);
 
+    /// Shows the session's job instead of the start page.
+    void showJob();
+
     /// Window and docks as they were when the editor was last used.
     void restoreLayout();
 
@@ -75,7 +78,6 @@ private:
     void moveCurrent(int step);
     void showProblem(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet, const QString& field);
 
-    void showJob();
     void showStart();
     void showCurrent();
     void updateActions();

@@ -1,3 +1,4 @@
+#include <jobeditor/batch.h>
 #include <jobeditor/editorwindow.h>
 
 #include <QApplication>
@@ -25,6 +26,8 @@ int main(int argc, char* argv[])
     parser.addOption({QStringLiteral("installation"), text("Folder of the installation."), text("DIR")});
     parser.addOption({QStringLiteral("plugin-dir"), text("A further folder with plug-ins."), text("DIR")});
     parser.addOption({QStringLiteral("clean-settings"), text("Forget window places and recent jobs first.")});
+    parser.addOption({QStringLiteral("batch"), text("Run a scenario without a person."), text("FILE")});
+    parser.addOption({QStringLiteral("dark"), text("Light colours on dark windows.")});
     parser.addPositionalArgument(QStringLiteral("job"), text("Job file to open."), QStringLiteral("[job]"));
     parser.process(application);
 
@@ -38,7 +41,11 @@ int main(int argc, char* argv[])
     Session::PluginHost host;
     host.load(parser.values(QStringLiteral("plugin-dir")) + Session::PluginHost::defaultFolders());
     Session::JobSession session(host.factories());
+    if (parser.isSet(QStringLiteral("dark")))
+        useDarkColours();
     EditorWindow window(&host, &session);
+    if (parser.isSet(QStringLiteral("batch")))
+        return runBatch(parser.value(QStringLiteral("batch")), &window, &session);
     window.restoreLayout();
     window.show();
     if (!parser.positionalArguments().isEmpty())

@@ -198,6 +198,19 @@ JobSession::Setting* JobSession::add(Factory* factory, const QString& type, Sett
     return inserted(factory, setting, tr("Add %1").arg(factory->settingDisplayName(type)));
 }
 
+JobSession::Setting* JobSession::addSubjob(const JobXml::Subjob& subjob)
+{
+    flushEdits();
+    const QScopedValueRollback<bool> working(m_isWorking, true);
+    for (Factory* factory : activeFactories()) {
+        if (factory->isReadOnly() || !factory->claimsSubjob(subjob))
+            continue;
+        if (Setting* const setting = factory->readSubjob(subjob, nullptr))
+            return inserted(factory, setting, tr("Add %1").arg(setting->getDisplayName()));
+    }
+    return nullptr;
+}
+
 bool JobSession::remove(Setting* setting)
 {
     Factory* const factory = factoryOf(setting);
@@ -206,11 +219,10 @@ bool JobSession::remove(Setting* setting)
     flushEdits();
     const SettingPath path = pathOf(setting);
     const QString step = tr("Delete %1").arg(setting->getDisplayName());
-    const QString content = textOf(setting);
-    const JobXml::Subjob subjob = path.size() == 1 ? topLevel(path.first()).subjob : JobXml::Subjob();
+    const SettingContent content = contentOf(setting);
     if (!removeAt(path))
         return false;
-    push(new RemoveCommand(this, step, path, factory, content, subjob));
+    push(new RemoveCommand(this, step, path, factory, content));
     return true;
 }
 
@@ -396,6 +408,13 @@ void JobSession::push(QUndoCommand* command)
     m_undoStack.push(command);
 }
 
+SettingContent JobSession::contentOf(Setting* setting) const
+{
+    const int index = topLevelIndex(setting);
+    return {textOf(setting), setting->getDisplayName(),
+            index < 0 ? JobXml::Subjob() : topLevel(index).subjob};
+}
+
 JobSession::Setting* JobSession::inserted(Factory* factory, Setting* setting, const QString& step)
 {
     if (!setting)
@@ -404,25 +423,27 @@ JobSession::Setting* JobSession::inserted(Factory* factory, Setting* setting, co
         m_topLevel.push_back(newTopLevel(factory, setting, JobXml::Subjob()));
     }
     walk(setting, [this](Setting* node) { remember(node); });
-    push(new InsertCommand(this, step, pathOf(setting), factory, textOf(setting)));
+    push(new InsertCommand(this, step, pathOf(setting), factory));
     emit structureChanged();
     return setting;
 }
 
-JobSession::Setting* JobSession::insertText(Factory* factory, const QString& text, const SettingPath& path,
-                                            const JobXml::Subjob& subjob)
+JobSession::Setting* JobSession::insertText(Factory* factory, const SettingContent& content,
+                                            const SettingPath& path)
 {
     const QScopedValueRollback<bool> working(m_isWorking, true);
     Setting* const parent = settingAt(path.mid(0, path.size() - 1));
-    Setting* const setting = factory->pasteMimeText(text, parent);
+    Setting* const setting = factory->pasteMimeText(content.text, parent);
     if (!setting)
         return nullptr;
+    if (setting->getDisplayName() != content.name)
+        setting->setDisplayName(content.name);
     if (parent) {
         const int from = setting->row();
         if (from != path.last())
             parent->moveChild(from, path.last());
     } else {
-        m_topLevel.insert(m_topLevel.begin() + path.first(), newTopLevel(factory, setting, subjob));
+        m_topLevel.insert(m_topLevel.begin() + path.first(), newTopLevel(factory, setting, content.subjob));
     }
     walk(setting, [this](Setting* node) { remember(node); });
     emit structureChanged();

@@ -22,6 +22,14 @@ namespace Session {
 /// parent. Empty stands for the job itself.
 using SettingPath = QVector<int>;
 
+/// A setting with its subtree, for bringing it back as it was.
+struct SettingContent
+{
+    QString text;          ///< as for pasting
+    QString name;          ///< pasting may give another one
+    JobXml::Subjob subjob; ///< of a top-level setting: what the file had beyond it
+};
+
 /// A job that is worked on: settings of several plug-ins in the order of the job file, and every change of them as
 /// a step that can be undone. Knows plug-ins as JEDSubSettingFactory and nodes as ISubSetting. A sub-job that no
 /// plug-in claims keeps its place and its content.
@@ -83,6 +91,8 @@ public:
     QStringList addableTypes(Factory* factory, Setting* parent) const;
     /// \param window  parent of a dialog in which the user is asked, if the type needs that
     Setting* add(Factory* factory, const QString& type, Setting* parent, QWidget* window);
+    /// Adds a sub-job as a job file describes it, by the first plug-in that claims it. \return null if none does
+    Setting* addSubjob(const JobXml::Subjob& subjob);
     bool remove(Setting* setting);
     Setting* duplicate(Setting* setting);
     /// The setting with its subtree as text; empty if it has none.
@@ -126,11 +136,11 @@ private:
     void remember(Setting* setting);
     void forget(Setting* setting);
     void push(QUndoCommand* command);
+    SettingContent contentOf(Setting* setting) const;
     Setting* inserted(Factory* factory, Setting* setting, const QString& step);
 
     // The changes themselves, without a step; used by the steps.
-    Setting* insertText(Factory* factory, const QString& text, const SettingPath& path,
-                        const JobXml::Subjob& subjob);
+    Setting* insertText(Factory* factory, const SettingContent& content, const SettingPath& path);
     bool removeAt(const SettingPath& path);
     void moveAt(const SettingPath& parent, int from, int to);
     bool setTextAt(const SettingPath& path, const QString& name, const QString& xml);

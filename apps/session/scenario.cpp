@@ -17,11 +17,13 @@ struct Verb
 
 const Verb VERBS[] = {
     {QLatin1String("new"), 1, 2, QT_TRANSLATE_NOOP("Session::Scenario", "new TYPE [NAME]")},
+    {QLatin1String("open"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "open FILE (job editor)")},
     {QLatin1String("add"), 1, 2, QT_TRANSLATE_NOOP("Session::Scenario", "add TYPE/BASE [STARTUP-MODE]")},
     {QLatin1String("set"), 2, 2, QT_TRANSLATE_NOOP("Session::Scenario", "set SET/FIELD VALUE")},
     {QLatin1String("select"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "select NUMBER")},
     {QLatin1String("expect"), 2, 2, QT_TRANSLATE_NOOP("Session::Scenario", "expect subjobs|SET/FIELD VALUE")},
     {QLatin1String("save"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "save FILE")},
+    {QLatin1String("picture"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "picture FILE (job editor)")},
 };
 
 class Texts

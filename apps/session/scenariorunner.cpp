@@ -52,7 +52,8 @@ ScenarioRunner::Outcome ScenarioRunner::runStep(const Scenario::Step& step)
         if (step.verb == action.verb)
             return (this->*action.run)(step.arguments);
     }
-    return stop(REFUSED, Texts::tr("\"%1\" is no verb of a scenario").arg(step.verb));
+    return stop(REFUSED, Texts::tr("\"%1\" is a step for the job editor").arg(step.verb),
+                Texts::tr("Run it with: jobeditor --batch FILE"));
 }
 
 ScenarioRunner::Outcome ScenarioRunner::begin(const QStringList& arguments)

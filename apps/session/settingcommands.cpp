@@ -23,10 +23,16 @@ void SettingCommand::redo()
     m_isDone = false;
 }
 
-JobSession::Setting* SettingCommand::insertText(const SettingPath& path, JobSession::Factory* factory,
-                                                const QString& text, const JobXml::Subjob& subjob) const
+JobSession::Setting* SettingCommand::insert(const SettingPath& path, JobSession::Factory* factory,
+                                            const SettingContent& content) const
 {
-    return m_session->insertText(factory, text, path, subjob);
+    return m_session->insertText(factory, content, path);
+}
+
+SettingContent SettingCommand::contentAt(const SettingPath& path) const
+{
+    JobSession::Setting* const setting = m_session->settingAt(path);
+    return setting ? m_session->contentOf(setting) : SettingContent();
 }
 
 bool SettingCommand::removeAt(const SettingPath& path) const
@@ -50,43 +56,36 @@ bool SettingCommand::renameAt(const SettingPath& path, const QString& name) cons
 }
 
 InsertCommand::InsertCommand(JobSession* session, const QString& text, const SettingPath& path,
-                             JobSession::Factory* factory, const QString& content)
+                             JobSession::Factory* factory)
     : SettingCommand(session, text)
     , m_path(path)
     , m_factory(factory)
-    , m_content(content)
 {
 }
 
 void InsertCommand::undo()
 {
-    // What undo takes away may hold less than it held when it came; redo brings back what is there now.
-    if (JobSession::Setting* const setting = session()->settingAt(m_path))
-        m_content = setting->getMimeText(0);
-    if (m_path.size() == 1)
-        m_subjob = session()->topLevel(m_path.first()).subjob;
+    m_content = contentAt(m_path);
     removeAt(m_path);
 }
 
 void InsertCommand::apply()
 {
-    insertText(m_path, m_factory, m_content, m_subjob);
+    insert(m_path, m_factory, m_content);
 }
 
 RemoveCommand::RemoveCommand(JobSession* session, const QString& text, const SettingPath& path,
-                             JobSession::Factory* factory, const QString& content,
-                             const JobXml::Subjob& subjob)
+                             JobSession::Factory* factory, const SettingContent& content)
     : SettingCommand(session, text)
     , m_path(path)
     , m_factory(factory)
     , m_content(content)
-    , m_subjob(subjob)
 {
 }
 
 void RemoveCommand::undo()
 {
-    insertText(m_path, m_factory, m_content, m_subjob);
+    insert(m_path, m_factory, m_content);
 }
 
 void RemoveCommand::apply()

@@ -18,8 +18,9 @@ protected:
     virtual void apply() = 0;
 
     JobSession* session() const { return m_session; }
-    JobSession::Setting* insertText(const SettingPath& path, JobSession::Factory* factory,
-                                    const QString& text, const JobXml::Subjob& subjob) const;
+    JobSession::Setting* insert(const SettingPath& path, JobSession::Factory* factory,
+                                const SettingContent& content) const;
+    SettingContent contentAt(const SettingPath& path) const;
     bool removeAt(const SettingPath& path) const;
     void moveAt(const SettingPath& parent, int from, int to) const;
     bool setTextAt(const SettingPath& path, const QString& name, const QString& xml) const;
@@ -35,7 +36,7 @@ class InsertCommand : public SettingCommand
 {
 public:
     InsertCommand(JobSession* session, const QString& text, const SettingPath& path,
-                  JobSession::Factory* factory, const QString& content);
+                  JobSession::Factory* factory);
     void undo() override;
 
 protected:
@@ -44,8 +45,7 @@ protected:
 private:
     SettingPath m_path;
     JobSession::Factory* m_factory;
-    QString m_content;
-    JobXml::Subjob m_subjob;
+    SettingContent m_content;
 };
 
 /// A setting with its subtree went.
@@ -53,7 +53,7 @@ class RemoveCommand : public SettingCommand
 {
 public:
     RemoveCommand(JobSession* session, const QString& text, const SettingPath& path,
-                  JobSession::Factory* factory, const QString& content, const JobXml::Subjob& subjob);
+                  JobSession::Factory* factory, const SettingContent& content);
     void undo() override;
 
 protected:
@@ -62,8 +62,7 @@ protected:
 private:
     SettingPath m_path;
     JobSession::Factory* m_factory;
-    QString m_content;
-    JobXml::Subjob m_subjob;
+    SettingContent m_content;
 };
 
 /// A setting changed its place among its siblings.

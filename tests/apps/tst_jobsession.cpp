@@ -10,12 +10,14 @@
 #include <session/jobsession.h>
 #include <session/pluginhost.h>
 #include <session/savefile.h>
+#include <session/sessionrunner.h>
 #include <session/settingtreemodel.h>
 
 using JEDVEPLUGIN::ISubSetting;
 using Session::Findings;
 using Session::JobSession;
 using Session::PluginHost;
+using Session::SessionRunner;
 using Session::SettingPath;
 using Session::SettingTreeModel;
 
@@ -76,6 +78,10 @@ private slots:
     void modelDropsWithinAParent();
     void manyEditsAreUndone();
 
+    void scenarioIsRun();
+    void scenarioStopsAtTheFirstFault_data();
+    void scenarioStopsAtTheFirstFault();
+
 private:
     void examples();
     QByteArray text();
@@ -124,7 +130,8 @@ QByteArray TstJobSession::text()
 void TstJobSession::pluginsAreFound()
 {
     QVERIFY(m_host.factory("Search"));
-    QVERIFY(m_host.factory("minimal"));
+    QVERIFY(m_host.factory("search"));
+    QVERIFY(!m_host.factory("Minimal"));
     QVERIFY(!m_host.factory("nobody"));
     for (const auto& plugin : m_host.plugins())
         QVERIFY2(plugin.report.isAccepted(), qPrintable(plugin.report.text));
@@ -457,7 +464,65 @@ void TstJobSession::manyEditsAreUndone()
     }
     while (m_session->undoStack()->canUndo())
         m_session->undoStack()->undo();
-    QVERIFY2(text() == before, qPrintable(QString("seed %1\n%2").arg(seed).arg(QString(text()))));
+    QVERIFY2(text() == before, qPrintable(QString("seed %1").arg(seed)));
+}
+
+void TstJobSession::scenarioIsRun()
+{
+    QByteArray bytes;
+    QVERIFY(Session::readFile(JED_SOURCE_DIR "/installation/Scenarios/morning-watch.txt", &bytes, nullptr));
+    QString text = QString::fromUtf8(bytes);
+    text.replace("job.xml", m_folder.filePath("job.xml"));
+    Session::Scenario scenario;
+    Session::Finding finding;
+    QVERIFY(scenario.parse(text, "watch", &finding));
+    QStringList pictures;
+    SessionRunner runner(m_session.get(), [&](ISubSetting* current, const QString& file) {
+        pictures.append(file + " " + current->getSettingType());
+        return true;
+    });
+    QVERIFY2(runner.run(scenario), qPrintable(runner.findings().value(0).toText()));
+    QCOMPARE(pictures.size(), 3);
+    QCOMPARE(runner.files().size(), 4);
+    Findings findings;
+    QVERIFY(m_session->open(m_folder.filePath("job.xml"), &findings));
+    QCOMPARE(m_session->topLevelCount(), 2);
+    QVERIFY(findings.isEmpty());
+}
+
+void TstJobSession::scenarioStopsAtTheFirstFault_data()
+{
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<int>("line");
+    QTest::newRow("type of job") << "new Party" << 1;
+    QTest::newRow("missing file") << "open /nonexistent/job.xml" << 0;
+    QTest::newRow("receiver") << "new Search\nadd HT720/NONE" << 2;
+    QTest::newRow("start-up mode") << "new Search\nadd HT720/HF-1 Never" << 2;
+    QTest::newRow("no plug-in for the job") << "new Measurement\nadd HT720/HF-1" << 2;
+    QTest::newRow("no sub-job") << "new Search\nset TunerSettings/CenterFrequency 8M" << 2;
+    QTest::newRow("set") << "new Search\nadd HT720/HF-1\nset NoSet/Field 1" << 3;
+    QTest::newRow("field") << "new Search\nadd HT720/HF-1\nset TunerSettings/NoField 1" << 3;
+    QTest::newRow("value") << "new Search\nadd HT720/HF-1\nset TunerSettings/CenterFrequency much" << 3;
+    QTest::newRow("number") << "new Search\nselect 1" << 2;
+    QTest::newRow("expectation") << "new Search\nexpect subjobs 1" << 2;
+    QTest::newRow("expected value") << "new Search\nadd HT720/HF-1\nset TunerSettings/CenterFrequency 8M\n"
+                                       "expect TunerSettings/CenterFrequency 9M"
+                                    << 4;
+    QTest::newRow("picture") << "new Search\npicture a.png" << 2;
+    QTest::newRow("unwritable file") << "new Search\nsave /nonexistent/job.xml" << 0;
+}
+
+void TstJobSession::scenarioStopsAtTheFirstFault()
+{
+    QFETCH(QString, steps);
+    QFETCH(int, line);
+    Session::Scenario scenario;
+    Session::Finding finding;
+    QVERIFY(scenario.parse(steps + "\nexpect subjobs 99", "steps", &finding));
+    SessionRunner runner(m_session.get(), SessionRunner::Picture());
+    QVERIFY(!runner.run(scenario));
+    QCOMPARE(runner.findings().size(), 1);
+    QCOMPARE(runner.findings()[0].line, line);
 }
 
 JED_TEST_MAIN(TstJobSession)

@@ -79,10 +79,10 @@ void TstScenario::faultsNameTheLine_data()
     QTest::newRow("unknown verb")
         << "new Search\nsett a b"
         << "s:2: error: \"sett\" is no verb of a scenario\n"
-           "    Verbs are new, add, set, select, expect, save. Did you mean \"set\"?";
+           "    Verbs are new, open, add, set, select, expect, save, picture. Did you mean \"set\"?";
     QTest::newRow("far from any verb") << "destroy"
                                        << "s:1: error: \"destroy\" is no verb of a scenario\n"
-                                          "    Verbs are new, add, set, select, expect, save.";
+                                          "    Verbs are new, open, add, set, select, expect, save, picture.";
     QTest::newRow("too few")
         << "\nset a"
         << "s:2: error: \"set\" does not go with 1 arguments\n    Write: set SET/FIELD VALUE";
@@ -132,11 +132,13 @@ void TstScenario::textIsReadBackUnchanged()
 void TstScenario::theHelpNamesEachVerb()
 {
     QCOMPARE(Scenario::verbsHelp(), QString("  new TYPE [NAME]\n"
+                                            "  open FILE (job editor)\n"
                                             "  add TYPE/BASE [STARTUP-MODE]\n"
                                             "  set SET/FIELD VALUE\n"
                                             "  select NUMBER\n"
                                             "  expect subjobs|SET/FIELD VALUE\n"
-                                            "  save FILE\n"));
+                                            "  save FILE\n"
+                                            "  picture FILE (job editor)\n"));
 }
 
 QTEST_GUILESS_MAIN(TstScenario)

@@ -54,7 +54,8 @@ public:
     /// \param rulesDir  folder of its rule scripts
     explicit LoadedPlugin(const QString& name, const QString& path = QStringLiteral("/Test/"),
                           const QString& rulesDir = QStringLiteral(JED_SOURCE_DIR "/installation/Rules"))
-        : m_loader(QStringLiteral(JED_PLUGINS "/lib%1.so").arg(name))
+        : m_loader(
+              QStringLiteral("%1/lib%2.so").arg(name == "minimal" ? JED_EXAMPLE_PLUGINS : JED_PLUGINS, name))
     {
         auto* const plugin = qobject_cast<JEDVEPLUGIN::IJobEditorPlugin*>(m_loader.instance());
         if (!plugin)

@@ -1,0 +1,77 @@
+#include "batch.h"
+
+#include "editorwindow.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QPalette>
+#include <QPixmap>
+#include <QStyleFactory>
+#include <QTextStream>
+#include <session/headlessdialogs.h>
+#include <session/savefile.h>
+#include <session/sessionrunner.h>
+
+using Session::Finding;
+using Session::JobSession;
+using Session::Scenario;
+using Session::SessionRunner;
+
+namespace {
+bool writePicture(EditorWindow* window, JobSession::Setting* current, const QString& file)
+{
+    window->setCurrentSetting(current);
+    // Editors are laid out when their events have come.
+    QApplication::processEvents();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    return window->grab().save(&buffer, "PNG") && Session::saveFile(file, bytes, nullptr);
+}
+
+int fail(const Finding& finding)
+{
+    QTextStream(stderr) << finding.toText() << '\n';
+    return 2;
+}
+} // namespace
+
+int runBatch(const QString& scenarioFile, EditorWindow* window, JobSession* session)
+{
+    const Session::HeadlessDialogs dialogs;
+    QByteArray bytes;
+    QString reason;
+    if (!Session::readFile(scenarioFile, &bytes, &reason))
+        return fail({Finding::FAILURE, scenarioFile, 0, 0, reason, QString()});
+    Scenario scenario;
+    Finding finding;
+    if (!scenario.parse(Session::decodedText(bytes), scenarioFile, &finding))
+        return fail(finding);
+    QObject::connect(session, &JobSession::jobReplaced, window, &EditorWindow::showJob);
+    window->show();
+    SessionRunner runner(session, [window](JobSession::Setting* current, const QString& file) {
+        return writePicture(window, current, file);
+    });
+    const bool isDone = runner.run(scenario);
+    for (const Finding& found : runner.findings())
+        QTextStream(stderr) << found.toText() << '\n';
+    for (const QString& file : runner.files())
+        QTextStream(stdout) << file << '\n';
+    return isDone ? 0 : 1;
+}
+
+void useDarkColours()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette palette(QColor(53, 53, 53));
+    palette.setColor(QPalette::Base, QColor(35, 35, 35));
+    palette.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(35, 35, 35));
+    palette.setColor(QPalette::ToolTipText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(42, 130, 218));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(150, 150, 150));
+    QApplication::setPalette(palette);
+}

@@ -1,0 +1,263 @@
+#include "sessionrunner.h"
+
+#include <isubsetting.h>
+#include <jedcommonhelper.h>
+#include <jedsubsettingfactory.h>
+#include <jobxml/quantity.h>
+#include <jobxml/settings.h>
+#include <jobxml/suggestion.h>
+#include <QCoreApplication>
+#include <reportlayer/fieldaccess.h>
+#include <resourcedescription.h>
+
+using JEDVEPLUGIN::JEDCommonHelper;
+using JEDVEPLUGIN::ResourceDescription;
+
+namespace Session {
+
+namespace {
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Session::SessionRunner)
+};
+
+// What a person writes, as files have it: numbers without units, names instead of the texts that users are shown.
+QString fileText(const REPORTGENERATOR::Field& field, const QString& text)
+{
+    if (field.enumeration) {
+        const int position = field.enumeration->allGuiTexts().indexOf(text);
+        return position < 0 ? text : field.enumeration->name(position);
+    }
+    qint64 whole = 0;
+    double number = 0;
+    if (field.isNumber() && JobXml::parseWholeQuantity(text, field.unit(), &whole))
+        return QString::number(whole);
+    if (field.isNumber() && JobXml::parseQuantity(text, field.unit(), &number))
+        return QString::number(number, 'g', 15);
+    return text;
+}
+
+std::unique_ptr<REPORTGENERATOR::IRGObject> elementOf(const QString& set, const QString& xml)
+{
+    const REPORTGENERATOR::ParameterSet* const found = JobXml::findParameterSet(set);
+    if (!found)
+        return nullptr;
+    std::unique_ptr<REPORTGENERATOR::IRGObject> element(found->table->create());
+    element->SetXmlString(xml, false);
+    return element;
+}
+
+JobXml::Subjob subjobOn(const ResourceDescription& resource, const QString& mode)
+{
+    JobXml::Subjob subjob;
+    subjob.SetName(resource.getName());
+    subjob.SetStartupMode(JobXml::Subjob::NameToStartupMode(mode));
+    JobXml::ResourceDescription& description = subjob.GetResourceDescription();
+    description.SetType(JobXml::ResourceDescription::NameToType(resource.getType()));
+    description.SetBaseResource(resource.getBaseResource());
+    description.SetName(resource.getName());
+    return subjob;
+}
+
+QString chooseStartupMode(const ResourceDescription& resource, JEDVE::enJOB_TYPE type, const QString& wanted)
+{
+    const QStringList modes = JEDCommonHelper::restrictedStartupModes(
+        resource.getStartupModes(), JEDCommonHelper::allowedStartupModeString(type));
+    return wanted.isEmpty() ? modes.value(0) : modes.contains(wanted) ? wanted : QString();
+}
+} // namespace
+
+SessionRunner::SessionRunner(JobSession* session, const Picture& picture)
+    : m_session(session)
+    , m_picture(picture)
+{
+}
+
+bool SessionRunner::run(const Scenario& scenario)
+{
+    m_place = scenario.name();
+    for (const Scenario::Step& step : scenario.steps()) {
+        if (!runStep(step))
+            return false;
+    }
+    return true;
+}
+
+bool SessionRunner::runStep(const Scenario::Step& step)
+{
+    struct Action
+    {
+        QLatin1String verb;
+        bool (SessionRunner::*run)(const QStringList& arguments);
+    };
+    static const Action ACTIONS[] = {
+        {QLatin1String("new"), &SessionRunner::begin},
+        {QLatin1String("open"), &SessionRunner::open},
+        {QLatin1String("add"), &SessionRunner::add},
+        {QLatin1String("set"), &SessionRunner::set},
+        {QLatin1String("select"), &SessionRunner::select},
+        {QLatin1String("expect"), &SessionRunner::expect},
+        {QLatin1String("save"), &SessionRunner::save},
+        {QLatin1String("picture"), &SessionRunner::picture},
+    };
+    m_line = step.line;
+    for (const Action& action : ACTIONS) {
+        if (step.verb == action.verb)
+            return (this->*action.run)(step.arguments);
+    }
+    return refuse(Texts::tr("\"%1\" is no verb of a scenario").arg(step.verb));
+}
+
+bool SessionRunner::begin(const QStringList& arguments)
+{
+    const JEDVE::enJOB_TYPE type = JEDCommonHelper::StringToJobType(arguments.value(0));
+    if (type < 0)
+        return refuse(Texts::tr("there is no type of job \"%1\"").arg(arguments.value(0)));
+    m_session->begin(type, arguments.value(1, arguments.value(0)));
+    m_current = -1;
+    m_shown = nullptr;
+    return true;
+}
+
+bool SessionRunner::open(const QStringList& arguments)
+{
+    if (!m_session->open(arguments.value(0), &m_findings))
+        return false;
+    m_current = m_session->topLevelCount() > 0 ? 0 : -1;
+    m_shown = m_session->settingAt({m_current});
+    return true;
+}
+
+bool SessionRunner::add(const QStringList& arguments)
+{
+    const QString wanted = arguments.value(0);
+    QStringList keys;
+    for (const auto& resource : ResourceDescription::readAllResourceFiles()) {
+        keys.append(resource->getType() + QLatin1Char('/') + resource->getBaseResource());
+        if (keys.last() != wanted)
+            continue;
+        const QString mode = chooseStartupMode(*resource, m_session->jobType(), arguments.value(1));
+        if (mode.isEmpty())
+            return refuse(
+                Texts::tr("%1 does not offer such a start-up mode for this kind of job").arg(wanted));
+        m_shown = m_session->addSubjob(subjobOn(*resource, mode));
+        m_current = m_session->topLevelIndex(m_shown);
+        return m_shown ||
+               refuse(Texts::tr("no plug-in takes a sub-job on %1 in this kind of job").arg(wanted));
+    }
+    return refuse(Texts::tr("the installation offers no \"%1\"").arg(wanted),
+                  JobXml::suggestion(wanted, keys));
+}
+
+bool SessionRunner::set(const QStringList& arguments)
+{
+    const QString path = arguments.value(0);
+    const QString setName = path.section(QLatin1Char('/'), 0, 0);
+    const QString fieldPath = path.section(QLatin1Char('/'), 1);
+    JobSession::Setting* const setting = carrierOf(setName);
+    if (!setting)
+        return refuse(Texts::tr("the sub-job cannot have \"%1\"").arg(setName));
+    const auto element = elementOf(setName, setting->parameterSetText(setName));
+    const REPORTGENERATOR::Field* const field =
+        element ? REPORTGENERATOR::findField(element->table(), fieldPath) : nullptr;
+    if (!field)
+        return refuse(Texts::tr("%1 has no field \"%2\"").arg(setName, fieldPath));
+    if (!REPORTGENERATOR::setFieldText(*element, fieldPath, fileText(*field, arguments.value(1))))
+        return refuse(Texts::tr("%1 does not take \"%2\"").arg(path, arguments.value(1)));
+    m_shown = setting;
+    m_session->endEditStep();
+    return m_session->setParameterSet(setting, setName, element->GetXmlString()) ||
+           refuse(Texts::tr("%1 does not take \"%2\"").arg(path, arguments.value(1)));
+}
+
+bool SessionRunner::select(const QStringList& arguments)
+{
+    bool isNumber = false;
+    const int number = arguments.value(0).toInt(&isNumber);
+    if (!isNumber || number < 1 || number > m_session->topLevelCount())
+        return refuse(Texts::tr("there is no sub-job %1").arg(arguments.value(0)));
+    m_current = number - 1;
+    m_shown = m_session->settingAt({m_current});
+    return true;
+}
+
+bool SessionRunner::expect(const QStringList& arguments)
+{
+    const QString what = arguments.value(0);
+    QString found = QString::number(m_session->topLevelCount());
+    if (what != QLatin1String("subjobs")) {
+        const QString setName = what.section(QLatin1Char('/'), 0, 0);
+        const QString fieldPath = what.section(QLatin1Char('/'), 1);
+        JobSession::Setting* const setting = findCarrier(m_session->settingAt({m_current}), setName);
+        const auto element = setting ? elementOf(setName, setting->parameterSetText(setName)) : nullptr;
+        const REPORTGENERATOR::Field* const field =
+            element ? REPORTGENERATOR::findField(element->table(), fieldPath) : nullptr;
+        if (!field)
+            return refuse(Texts::tr("the sub-job has no \"%1\"").arg(what));
+        found = REPORTGENERATOR::fieldText(*element, fieldPath);
+        if (fileText(*field, arguments.value(1)) == found)
+            return true;
+    }
+    return found == arguments.value(1) ||
+           refuse(Texts::tr("%1 is \"%2\", not \"%3\" as expected").arg(what, found, arguments.value(1)));
+}
+
+bool SessionRunner::save(const QStringList& arguments)
+{
+    if (!m_session->save(arguments.value(0), &m_findings))
+        return false;
+    m_files.append(arguments.value(0));
+    return true;
+}
+
+bool SessionRunner::picture(const QStringList& arguments)
+{
+    if (!m_picture)
+        return refuse(Texts::tr("there are no windows to be drawn"),
+                      Texts::tr("Run it with the job editor."));
+    if (!m_picture(m_shown, arguments.value(0)))
+        return refuse(Texts::tr("%1 cannot be written").arg(arguments.value(0)));
+    m_files.append(arguments.value(0));
+    return true;
+}
+
+bool SessionRunner::refuse(const QString& text, const QString& advice)
+{
+    m_findings.append({Finding::FAILURE, m_place, m_place.isEmpty() ? 0 : m_line, 0, text, advice});
+    return false;
+}
+
+// The setting of the current sub-job that carries a set; made where the plug-in has a kind of setting for it.
+JobSession::Setting* SessionRunner::carrierOf(const QString& parameterSet)
+{
+    JobSession::Setting* const subjob = m_session->settingAt({m_current});
+    if (!subjob)
+        return nullptr;
+    if (JobSession::Setting* const present = findCarrier(subjob, parameterSet))
+        return present;
+    JobSession::Factory* const factory = m_session->factoryOf(subjob);
+    for (const QString& type : m_session->addableTypes(factory, subjob)) {
+        JobSession::Setting* const made = factory->needsUserInputOnCreation(type)
+                                              ? nullptr
+                                              : m_session->add(factory, type, subjob, nullptr);
+        if (made && made->parameterSetNames().contains(parameterSet))
+            return made;
+        if (made)
+            m_session->undoStack()->undo();
+    }
+    return nullptr;
+}
+
+JobSession::Setting* SessionRunner::findCarrier(JobSession::Setting* setting,
+                                                const QString& parameterSet) const
+{
+    if (!setting || setting->parameterSetNames().contains(parameterSet))
+        return setting;
+    for (int i = 0; i < setting->childCount(); ++i) {
+        if (JobSession::Setting* const found = findCarrier(setting->child(i), parameterSet))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace Session

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "jobsession.h"
+#include "scenario.h"
+
+#include <functional>
+#include <QStringList>
+
+namespace Session {
+
+/// Runs a scenario on a job session: the settings are made and changed by the plug-ins, as in the editor. GUI thread
+/// only.
+class SessionRunner
+{
+public:
+    /// Draws what the user would see. \return false if the file could not be written
+    using Picture = std::function<bool(JobSession::Setting* current, const QString& file)>;
+
+    /// \param picture  for the step "picture"; empty: there are no pictures
+    SessionRunner(JobSession* session, const Picture& picture);
+
+    /// Runs the steps up to the first that cannot be done.
+    /// \return false if there was one; the reason is the last finding
+    bool run(const Scenario& scenario);
+
+    const Findings& findings() const { return m_findings; }
+    /// What was written, in order.
+    const QStringList& files() const { return m_files; }
+
+private:
+    bool runStep(const Scenario::Step& step);
+    bool begin(const QStringList& arguments);
+    bool open(const QStringList& arguments);
+    bool add(const QStringList& arguments);
+    bool set(const QStringList& arguments);
+    bool select(const QStringList& arguments);
+    bool expect(const QStringList& arguments);
+    bool save(const QStringList& arguments);
+    bool picture(const QStringList& arguments);
+    bool refuse(const QString& text, const QString& advice = QString());
+    JobSession::Setting* carrierOf(const QString& parameterSet);
+    JobSession::Setting* findCarrier(JobSession::Setting* setting, const QString& parameterSet) const;
+
+    JobSession* m_session; // Not owned.
+    Picture m_picture;
+    Findings m_findings;
+    QStringList m_files;
+    int m_current = -1;                     // Top-level setting.
+    JobSession::Setting* m_shown = nullptr; // What was set last, for pictures. The session's.
+    QString m_place;
+    int m_line = 0;
+};
+
+} // namespace Session
