@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <quilappstartup/cfgcenter.h>
+#include <quilappstartup/translationcenter.h>
 
 namespace {
 // The views of the configuration that the library asks for.
@@ -14,6 +15,21 @@ class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Session::Installation)
 };
+
+QString programFolder(const QString& name)
+{
+    return QDir::cleanPath(
+        QStringLiteral("%1/../lib/jobeditorve/%2").arg(QCoreApplication::applicationDirPath(), name));
+}
+
+// The language that the installation chooses; texts of the source if it chooses none.
+void useLanguage(QString* error)
+{
+    const QString language =
+        CfgCenter::Instance()->GetAdminCfg(ADMINISTRATION_VIEW)->GetString(QStringLiteral("Language"));
+    if (!TranslationCenter::Instance()->SetLanguage(language))
+        *error = Texts::tr("there is no translation into %1, the language of the installation").arg(language);
+}
 } // namespace
 
 namespace Session {
@@ -24,8 +40,8 @@ bool chooseInstallation(const QString& folder, const QString& exampleFolder, QSt
     center->SetDefaultInstallation(exampleFolder);
     center->SetInstallation(folder);
     // The components that belong to the running program; the installation's own come first.
-    center->AddComponentFolder(QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                                               QStringLiteral("/../lib/jobeditorve/components")));
+    center->AddComponentFolder(programFolder(QStringLiteral("components")));
+    TranslationCenter::Instance()->AddFolder(programFolder(QStringLiteral("translations")));
     const QString chosen = center->GetInstallation();
     const QString iniFile = QDir(chosen).filePath(QLatin1String(CfgCenter::INI_FILE_NAME));
     if (!QFileInfo(chosen).isDir())
@@ -35,6 +51,8 @@ bool chooseInstallation(const QString& folder, const QString& exampleFolder, QSt
                      .arg(chosen, QLatin1String(CfgCenter::INI_FILE_NAME));
     else
         *error = center->GetProblems().join(QLatin1Char('\n'));
+    if (error->isEmpty())
+        useLanguage(error);
     return error->isEmpty();
 }
 

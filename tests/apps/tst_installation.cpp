@@ -1,4 +1,5 @@
 #include <quilappstartup/cfgcenter.h>
+#include <quilappstartup/translationcenter.h>
 #include <session/installation.h>
 #include <session/savefile.h>
 
@@ -15,6 +16,7 @@ private slots:
     void aFolderWithoutConfigurationIsRefused();
     void aMissingFolderIsRefused();
     void aBadLineIsNamed();
+    void languageOfTheInstallation();
     void templateFolderOf_data();
     void templateFolderOf();
 
@@ -69,6 +71,20 @@ void TstInstallation::aBadLineIsNamed()
     const QString folder = makeInstallation("bad", "[Administration]\nno key here\n");
     QVERIFY(!chooseInstallation(folder, "", &m_error));
     QVERIFY2(m_error.contains("installation.ini:2"), qPrintable(m_error));
+}
+
+void TstInstallation::languageOfTheInstallation()
+{
+    TranslationCenter::Instance()->AddFolder(JED_BINARY_DIR "/lib/jobeditorve/translations");
+    const QString german = makeInstallation("german", "[Administration]\nLanguage = de\n");
+    QVERIFY2(chooseInstallation(german, "", &m_error), qPrintable(m_error));
+    QCOMPARE(QCoreApplication::translate("JobXml", "Frequency"), QString("Frequenz"));
+    QVERIFY(chooseInstallation(makeInstallation("english"), "", &m_error));
+    QCOMPARE(QCoreApplication::translate("JobXml", "Frequency"), QString("Frequency"));
+    const QString unknown = makeInstallation("unknown", "[Administration]\nLanguage = xx\n");
+    QVERIFY(!chooseInstallation(unknown, "", &m_error));
+    QCOMPARE(m_error, QString("there is no translation into xx, the language of the installation"));
+    TranslationCenter::Instance()->SetLanguage(QString());
 }
 
 void TstInstallation::templateFolderOf_data()
