@@ -2,12 +2,16 @@
 
 #include "editorwindow.h"
 
+#include <jedcommonhelper.h>
 #include <QApplication>
 #include <QBuffer>
+#include <QComboBox>
 #include <QPalette>
 #include <QPixmap>
 #include <QStyleFactory>
 #include <QTextStream>
+#include <resourcedescription.h>
+#include <resourceselectiondialog.h>
 #include <session/headlessdialogs.h>
 #include <session/savefile.h>
 #include <session/sessionrunner.h>
@@ -18,16 +22,48 @@ using Session::Scenario;
 using Session::SessionRunner;
 
 namespace {
-bool writePicture(EditorWindow* window, JobSession::Setting* current, const QString& file)
+class WindowArtist : public SessionRunner::Artist
 {
-    window->setCurrentSetting(current);
-    // Editors are laid out when their events have come.
-    QApplication::processEvents();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    return window->grab().save(&buffer, "PNG") && Session::saveFile(file, bytes, nullptr);
-}
+public:
+    explicit WindowArtist(EditorWindow* window)
+        : m_window(window)
+    {
+    }
+
+    bool drawSetting(JobSession::Setting* current, const QString& file) override
+    {
+        m_window->setCurrentSetting(current);
+        return write(m_window, file);
+    }
+
+    bool drawDialog(const QString& type, const QString& detector, const QString& file) override
+    {
+        JEDVEPLUGIN::ResourceSelectionDialog dialog(JEDVEPLUGIN::ResourceDescription::readAllResourceFiles(),
+                                                    true, true, true, JobXml::Subjob::GetStartupModes(),
+                                                    m_window);
+        const auto choose = [&dialog](const char* name, const QString& text) {
+            if (auto* const box = dialog.findChild<QComboBox*>(QLatin1String(name)))
+                box->setCurrentIndex(box->findText(text));
+        };
+        choose("ResourceSelection_TunerType", type);
+        choose("ResourceSelection_DetectorType", JEDVEPLUGIN::JEDCommonHelper::detectorTypeToGUI(detector));
+        dialog.show();
+        return write(&dialog, file);
+    }
+
+private:
+    static bool write(QWidget* widget, const QString& file)
+    {
+        // Widgets are laid out when their events have come.
+        QApplication::processEvents();
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        return widget->grab().save(&buffer, "PNG") && Session::saveFile(file, bytes, nullptr);
+    }
+
+    EditorWindow* m_window; // Not owned.
+};
 
 int fail(const Finding& finding)
 {
@@ -49,9 +85,8 @@ int runBatch(const QString& scenarioFile, EditorWindow* window, JobSession* sess
         return fail(finding);
     QObject::connect(session, &JobSession::jobReplaced, window, &EditorWindow::showJob);
     window->show();
-    SessionRunner runner(session, [window](JobSession::Setting* current, const QString& file) {
-        return writePicture(window, current, file);
-    });
+    WindowArtist artist(window);
+    SessionRunner runner(session, &artist);
     const bool isDone = runner.run(scenario);
     for (const Finding& found : runner.findings())
         QTextStream(stderr) << found.toText() << '\n';

@@ -24,6 +24,8 @@ const Verb VERBS[] = {
     {QLatin1String("expect"), 2, 2, QT_TRANSLATE_NOOP("Session::Scenario", "expect subjobs|SET/FIELD VALUE")},
     {QLatin1String("save"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "save FILE")},
     {QLatin1String("picture"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "picture FILE (job editor)")},
+    {QLatin1String("dialog"), 3, 3,
+     QT_TRANSLATE_NOOP("Session::Scenario", "dialog TYPE DETECTOR FILE (job editor)")},
 };
 
 class Texts

@@ -7,6 +7,8 @@
 #include <jobxml/settings.h>
 #include <jobxml/suggestion.h>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <reportlayer/fieldaccess.h>
 #include <resourcedescription.h>
 
@@ -67,9 +69,11 @@ QString chooseStartupMode(const ResourceDescription& resource, JEDVE::enJOB_TYPE
 }
 } // namespace
 
-SessionRunner::SessionRunner(JobSession* session, const Picture& picture)
+SessionRunner::Artist::~Artist() = default;
+
+SessionRunner::SessionRunner(JobSession* session, Artist* artist)
     : m_session(session)
-    , m_picture(picture)
+    , m_artist(artist)
 {
 }
 
@@ -99,6 +103,7 @@ bool SessionRunner::runStep(const Scenario::Step& step)
         {QLatin1String("expect"), &SessionRunner::expect},
         {QLatin1String("save"), &SessionRunner::save},
         {QLatin1String("picture"), &SessionRunner::picture},
+        {QLatin1String("dialog"), &SessionRunner::dialog},
     };
     m_line = step.line;
     for (const Action& action : ACTIONS) {
@@ -121,7 +126,9 @@ bool SessionRunner::begin(const QStringList& arguments)
 
 bool SessionRunner::open(const QStringList& arguments)
 {
-    if (!m_session->open(arguments.value(0), &m_findings))
+    // Beside the scenario, so that it can be run from anywhere.
+    const QString path = QFileInfo(m_place).dir().filePath(arguments.value(0));
+    if (!m_session->open(path, &m_findings))
         return false;
     m_current = m_session->topLevelCount() > 0 ? 0 : -1;
     m_shown = m_session->settingAt({m_current});
@@ -212,12 +219,24 @@ bool SessionRunner::save(const QStringList& arguments)
 
 bool SessionRunner::picture(const QStringList& arguments)
 {
-    if (!m_picture)
+    const QString file = arguments.value(0);
+    return drawn(m_artist && m_artist->drawSetting(m_shown, file), file);
+}
+
+bool SessionRunner::dialog(const QStringList& arguments)
+{
+    const QString file = arguments.value(2);
+    return drawn(m_artist && m_artist->drawDialog(arguments.value(0), arguments.value(1), file), file);
+}
+
+bool SessionRunner::drawn(bool isWritten, const QString& file)
+{
+    if (!m_artist)
         return refuse(Texts::tr("there are no windows to be drawn"),
                       Texts::tr("Run it with the job editor."));
-    if (!m_picture(m_shown, arguments.value(0)))
-        return refuse(Texts::tr("%1 cannot be written").arg(arguments.value(0)));
-    m_files.append(arguments.value(0));
+    if (!isWritten)
+        return refuse(Texts::tr("%1 cannot be written").arg(file));
+    m_files.append(file);
     return true;
 }
 

@@ -3,7 +3,6 @@
 #include "jobsession.h"
 #include "scenario.h"
 
-#include <functional>
 #include <QStringList>
 
 namespace Session {
@@ -13,11 +12,19 @@ namespace Session {
 class SessionRunner
 {
 public:
-    /// Draws what the user would see. \return false if the file could not be written
-    using Picture = std::function<bool(JobSession::Setting* current, const QString& file)>;
+    /// Draws what the user would see; both give false if the file could not be written.
+    class Artist
+    {
+    public:
+        virtual ~Artist();
+        /// The window with the editor of a setting.
+        virtual bool drawSetting(JobSession::Setting* current, const QString& file) = 0;
+        /// The dialog for a new sub-job, with a type of receivers and a type of detector chosen.
+        virtual bool drawDialog(const QString& type, const QString& detector, const QString& file) = 0;
+    };
 
-    /// \param picture  for the step "picture"; empty: there are no pictures
-    SessionRunner(JobSession* session, const Picture& picture);
+    /// \param artist  for the steps "picture" and "dialog"; null: there are no pictures. Not owned.
+    SessionRunner(JobSession* session, Artist* artist);
 
     /// Runs the steps up to the first that cannot be done.
     /// \return false if there was one; the reason is the last finding
@@ -37,12 +44,14 @@ private:
     bool expect(const QStringList& arguments);
     bool save(const QStringList& arguments);
     bool picture(const QStringList& arguments);
+    bool dialog(const QStringList& arguments);
+    bool drawn(bool isWritten, const QString& file);
     bool refuse(const QString& text, const QString& advice = QString());
     JobSession::Setting* carrierOf(const QString& parameterSet);
     JobSession::Setting* findCarrier(JobSession::Setting* setting, const QString& parameterSet) const;
 
     JobSession* m_session; // Not owned.
-    Picture m_picture;
+    Artist* m_artist;      // Not owned.
     Findings m_findings;
     QStringList m_files;
     int m_current = -1;                     // Top-level setting.

@@ -475,15 +475,26 @@ void TstJobSession::scenarioIsRun()
     text.replace("job.xml", m_folder.filePath("job.xml"));
     Session::Scenario scenario;
     Session::Finding finding;
-    QVERIFY(scenario.parse(text, "watch", &finding));
-    QStringList pictures;
-    SessionRunner runner(m_session.get(), [&](ISubSetting* current, const QString& file) {
-        pictures.append(file + " " + current->getSettingType());
-        return true;
-    });
+    QVERIFY(scenario.parse(text, JED_SOURCE_DIR "/installation/Scenarios/morning-watch.txt", &finding));
+    struct Recorder : SessionRunner::Artist
+    {
+        bool drawSetting(ISubSetting* current, const QString& file) override
+        {
+            m_drawn.append(file + " " + current->getSettingType());
+            return true;
+        }
+        bool drawDialog(const QString& type, const QString& detector, const QString& file) override
+        {
+            m_drawn.append(file + " " + type + " " + detector);
+            return true;
+        }
+        QStringList m_drawn;
+    } recorder;
+    SessionRunner runner(m_session.get(), &recorder);
     QVERIFY2(runner.run(scenario), qPrintable(runner.findings().value(0).toText()));
-    QCOMPARE(pictures.size(), 3);
-    QCOMPARE(runner.files().size(), 4);
+    QVERIFY(recorder.m_drawn.contains("tuner.png Tuner"));
+    QVERIFY(recorder.m_drawn.contains("dialog-hopper.png HT720 HopperDetector"));
+    QCOMPARE(runner.files().size(), recorder.m_drawn.size() + 1);
     Findings findings;
     QVERIFY(m_session->open(m_folder.filePath("job.xml"), &findings));
     QCOMPARE(m_session->topLevelCount(), 2);
@@ -519,7 +530,7 @@ void TstJobSession::scenarioStopsAtTheFirstFault()
     Session::Scenario scenario;
     Session::Finding finding;
     QVERIFY(scenario.parse(steps + "\nexpect subjobs 99", "steps", &finding));
-    SessionRunner runner(m_session.get(), SessionRunner::Picture());
+    SessionRunner runner(m_session.get(), nullptr);
     QVERIFY(!runner.run(scenario));
     QCOMPARE(runner.findings().size(), 1);
     QCOMPARE(runner.findings()[0].line, line);

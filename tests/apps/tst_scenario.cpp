@@ -79,10 +79,11 @@ void TstScenario::faultsNameTheLine_data()
     QTest::newRow("unknown verb")
         << "new Search\nsett a b"
         << "s:2: error: \"sett\" is no verb of a scenario\n"
-           "    Verbs are new, open, add, set, select, expect, save, picture. Did you mean \"set\"?";
-    QTest::newRow("far from any verb") << "destroy"
-                                       << "s:1: error: \"destroy\" is no verb of a scenario\n"
-                                          "    Verbs are new, open, add, set, select, expect, save, picture.";
+           "    Verbs are new, open, add, set, select, expect, save, picture, dialog. Did you mean \"set\"?";
+    QTest::newRow("far from any verb")
+        << "destroy"
+        << "s:1: error: \"destroy\" is no verb of a scenario\n"
+           "    Verbs are new, open, add, set, select, expect, save, picture, dialog.";
     QTest::newRow("too few")
         << "\nset a"
         << "s:2: error: \"set\" does not go with 1 arguments\n    Write: set SET/FIELD VALUE";
@@ -138,7 +139,8 @@ void TstScenario::theHelpNamesEachVerb()
                                             "  select NUMBER\n"
                                             "  expect subjobs|SET/FIELD VALUE\n"
                                             "  save FILE\n"
-                                            "  picture FILE (job editor)\n"));
+                                            "  picture FILE (job editor)\n"
+                                            "  dialog TYPE DETECTOR FILE (job editor)\n"));
 }
 
 QTEST_GUILESS_MAIN(TstScenario)
