@@ -1,7 +1,7 @@
 # Sourced by ./run and ./check: makes sure that what they need is installed, and says so before anything is changed.
 
 JED_BUILD_PACKAGES=(g++ cmake ninja-build ccache python3 qtbase5-dev qtscript5-dev
-                    qttools5-dev-tools libxml2-dev)
+                    qttools5-dev-tools libxml2-dev fonts-dejavu-core)
 JED_CHECK_PACKAGES=(libbenchmark-dev clang clang-format)
 
 # jed_prerequisites <install: yes|no> <package>...

@@ -95,18 +95,23 @@ int runBatch(const QString& scenarioFile, EditorWindow* window, JobSession* sess
     return isDone ? 0 : 1;
 }
 
-void useDarkColours()
+int failBatch(const QString& reason)
+{
+    return fail({Finding::FAILURE, QString(), 0, 0, reason, QString()});
+}
+
+void useFixedLooks(bool isDark)
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QPalette palette(QColor(53, 53, 53));
-    palette.setColor(QPalette::Base, QColor(35, 35, 35));
-    palette.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10));
+    QPalette palette(isDark ? QColor(53, 53, 53) : QColor(239, 239, 239));
+    palette.setColor(QPalette::Base, isDark ? QColor(35, 35, 35) : QColor(Qt::white));
+    palette.setColor(QPalette::AlternateBase, isDark ? QColor(45, 45, 45) : QColor(247, 247, 247));
+    palette.setColor(QPalette::ToolTipBase, palette.color(QPalette::Base));
+    palette.setColor(QPalette::ToolTipText, palette.color(QPalette::Text));
+    palette.setColor(QPalette::Highlight, isDark ? QColor(42, 130, 218) : QColor(48, 140, 198));
     palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::ToolTipBase, QColor(35, 35, 35));
-    palette.setColor(QPalette::ToolTipText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(42, 130, 218));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(150, 150, 150));
+        palette.setColor(QPalette::Disabled, role, isDark ? QColor(150, 150, 150) : QColor(110, 110, 110));
     QApplication::setPalette(palette);
 }

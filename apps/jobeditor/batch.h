@@ -13,5 +13,9 @@ class JobSession;
 /// \return 0 if all steps were done, 1 if not, 2 if the scenario cannot be read
 int runBatch(const QString& scenarioFile, EditorWindow* window, Session::JobSession* session);
 
-/// Light colours on dark windows, as for work at night.
-void useDarkColours();
+/// Tells why a scenario cannot be run at all. \return 2
+int failBatch(const QString& reason);
+
+/// The same style, font and colours everywhere, so that pictures do not depend on the machine. \param isDark  light
+/// colours on dark windows, as for work at night
+void useFixedLooks(bool isDark);

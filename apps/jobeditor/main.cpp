@@ -33,19 +33,24 @@ int main(int argc, char* argv[])
 
     if (parser.isSet(QStringLiteral("clean-settings")))
         QSettings().clear();
+    const QString scenario = parser.value(QStringLiteral("batch"));
+    const bool isDark = parser.isSet(QStringLiteral("dark"));
+    if (isDark || !scenario.isEmpty())
+        useFixedLooks(isDark);
     QString error;
     if (!Session::chooseInstallation(parser.value(QStringLiteral("installation")),
-                                     QStringLiteral(JED_EXAMPLE_INSTALLATION), &error))
+                                     QStringLiteral(JED_EXAMPLE_INSTALLATION), &error)) {
+        if (!scenario.isEmpty())
+            return failBatch(error);
         QMessageBox::warning(nullptr, text("Job editor"), error);
+    }
 
     Session::PluginHost host;
     host.load(parser.values(QStringLiteral("plugin-dir")) + Session::PluginHost::defaultFolders());
     Session::JobSession session(host.factories());
-    if (parser.isSet(QStringLiteral("dark")))
-        useDarkColours();
     EditorWindow window(&host, &session);
-    if (parser.isSet(QStringLiteral("batch")))
-        return runBatch(parser.value(QStringLiteral("batch")), &window, &session);
+    if (!scenario.isEmpty())
+        return runBatch(scenario, &window, &session);
     window.restoreLayout();
     window.show();
     if (!parser.positionalArguments().isEmpty())
