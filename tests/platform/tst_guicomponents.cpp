@@ -1,8 +1,8 @@
+#include <support/accessiblenames.h>
 #include <support/palettes.h>
 #include <support/testmain.h>
 
 #include <jobxml/parametersettext.h>
-#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -119,19 +119,6 @@ void changeByKeyboard(QWidget* control, const QString& text)
         QTest::keyClicks(QApplication::focusWidget(), text);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCoreApplication::processEvents(); // The list takes a text over from the event loop.
-    }
-}
-
-void collectNameless(QAccessibleInterface* element, QStringList* nameless)
-{
-    if (element->state().focusable && element->object() && element->object()->isWidgetType() &&
-        static_cast<QWidget*>(element->object())->focusPolicy() != Qt::NoFocus &&
-        element->text(QAccessible::Name).isEmpty())
-        nameless->append(QString("%1 %2").arg(element->object()->metaObject()->className(),
-                                              element->object()->objectName()));
-    for (int i = 0; i < element->childCount(); ++i) {
-        if (QAccessibleInterface* const child = element->child(i))
-            collectNameless(child, nameless);
     }
 }
 } // namespace
@@ -289,9 +276,7 @@ void TstGuiComponents::everyControlHasAName()
     fill(&node, set);
     const std::unique_ptr<QWidget> widget(load(name)->CreateWidget(set, &node, nullptr));
     widget->show();
-    QStringList nameless;
-    collectNameless(QAccessible::queryAccessibleInterface(widget.get()), &nameless);
-    QCOMPARE(nameless, QStringList());
+    QCOMPARE(JedTest::namelessControls(widget.get()), QStringList());
 }
 
 void TstGuiComponents::unknownSetHasNoEditor()
