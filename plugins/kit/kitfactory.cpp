@@ -283,7 +283,7 @@ QString KitFactory::manual() const
 void KitFactory::initializeRuleEngine()
 {
     const QString path = QDir(rulesDir).filePath(m_declaration.ruleFile);
-    m_ruleScript = QFileInfo(path).isFile() ? path : QString();
+    m_ruleScript = !rulesDir.isEmpty() && QFileInfo(path).isFile() ? path : QString();
 }
 
 void KitFactory::initialize(const QString& path, VelmoGui::GuiComponentCommon* component)

@@ -51,9 +51,9 @@ class LoadedPlugin
 public:
     /// \param name  "minimal"
     /// \param path  value-tree path below which its node lies
-    /// \param rulesDir  folder of its rule scripts
+    /// \param rulesDir  folder of its rule scripts; empty: no rules
     explicit LoadedPlugin(const QString& name, const QString& path = QStringLiteral("/Test/"),
-                          const QString& rulesDir = QStringLiteral(JED_SOURCE_DIR "/installation/Rules"))
+                          const QString& rulesDir = QString())
         : m_loader(
               QStringLiteral("%1/lib%2.so").arg(name == "minimal" ? JED_EXAMPLE_PLUGINS : JED_PLUGINS, name))
     {

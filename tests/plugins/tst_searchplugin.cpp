@@ -51,6 +51,7 @@ private:
 
 namespace {
 const char* const SUB_JOB = "SubJob";
+const char* const RULES = JED_SOURCE_DIR "/installation/Rules";
 
 QStringList textsOf(const QList<Problem>& problems)
 {
@@ -372,7 +373,7 @@ void TstSearchPlugin::rulesFollowChanges()
     QFETCH(QString, changed);
     QFETCH(QString, text);
     QFETCH(QString, followed);
-    const LoadedPlugin plugin("search");
+    const LoadedPlugin plugin("search", "/Test/", RULES);
     JedTest::answerDialog(receiver);
     QVERIFY(plugin->createSubSettingByUser(SUB_JOB, nullptr, nullptr));
     const QString path = "/Test/Search/SubJob1/";
@@ -382,7 +383,7 @@ void TstSearchPlugin::rulesFollowChanges()
 
 void TstSearchPlugin::rulesRestWhileTextsAreTaken()
 {
-    const LoadedPlugin plugin("search");
+    const LoadedPlugin plugin("search", "/Test/", RULES);
     ISubSetting* const scan = below(scanner(plugin), "Scan");
     const QString before = scan->parameterSetText("ScanSettings");
     ValueBase* const step = Tree::Instance()->FindByPath("/Test/Search/SubJob1/ScanSettings/Range.StepWidth");
