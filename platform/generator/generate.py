@@ -151,7 +151,7 @@ class Emitter:
             lines += ["extern const EnumTable %s;" % entry.name for entry in part.simples if entry.values]
             lines += ["extern const ElementTable %s;" % entry.name for entry in part.classes]
         lines += array("constexpr const char* SCHEMA_LINES[]", map(literal, flat_schema(schema)))
-        lines += ["constexpr SchemaText SCHEMA = {%s, SCHEMA_LINES, std::size(SCHEMA_LINES), %s};"
+        lines += ["[[maybe_unused]] constexpr SchemaText SCHEMA = {%s, SCHEMA_LINES, std::size(SCHEMA_LINES), %s};"
                   % (literal(schema.file), literal(schema.version))]
         for entry in (entry for entry in schema.simples if entry.values):
             lines += self.enumeration(entry)
