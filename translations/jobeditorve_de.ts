@@ -45,6 +45,248 @@
     </message>
 </context>
 <context>
+    <name>EditorPane</name>
+    <message>
+        <source>This setting has nothing to edit.</source>
+        <translation>An dieser Einstellung gibt es nichts zu bearbeiten.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Setting</source>
+        <translation>&amp;Einstellung</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Umbe&amp;nennen</translation>
+    </message>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t setting</source>
+        <translation>Einstellung &amp;ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy setting</source>
+        <translation>Einstellung &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste setting</source>
+        <translation>Einstellung einfü&amp;gen</translation>
+    </message>
+    <message>
+        <source>&amp;Filter settings</source>
+        <translation>Einstellungen &amp;filtern</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Nothing can be added here</source>
+        <translation>Hier lässt sich nichts hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Noch keine</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The job has changes that are not saved. Save them?</source>
+        <translation>Der Auftrag hat Änderungen, die nicht gespeichert sind. Jetzt speichern?</translation>
+    </message>
+    <message>
+        <source>Open a job</source>
+        <translation>Auftrag öffnen</translation>
+    </message>
+    <message>
+        <source>Job files (*.xml);;All files (*)</source>
+        <translation>Auftragsdateien (*.xml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save the job</source>
+        <translation>Auftrag speichern</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Drop all changes since the job was saved?</source>
+        <translation>Alle Änderungen seit dem Speichern des Auftrags verwerfen?</translation>
+    </message>
+    <message>
+        <source>Job editor</source>
+        <translation>Auftragseditor</translation>
+    </message>
+    <message>
+        <source>File changed</source>
+        <translation>Datei geändert</translation>
+    </message>
+    <message>
+        <source>Another program changed %1. Open it again?</source>
+        <translation>Ein anderes Programm hat %1 geändert. Erneut öffnen?</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no setting that can be pasted here.</source>
+        <translation>Die Zwischenablage enthält keine Einstellung, die sich hier einfügen lässt.</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Manuals</source>
+        <translation>&amp;Handbücher</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins...</source>
+        <translation>&amp;Plug-ins...</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;Über...</translation>
+    </message>
+    <message>
+        <source>About the job editor</source>
+        <translation>Über den Auftragseditor</translation>
+    </message>
+    <message>
+        <source>Job editor %1
+Plug-in interface %2
+Installation: %3</source>
+        <translation>Auftragseditor %1
+Plug-in-Schnittstelle %2
+Anlage: %3</translation>
+    </message>
+    <message>
+        <source>There are no plug-ins</source>
+        <translation>Es gibt keine Plug-ins</translation>
+    </message>
+    <message>
+        <source>The job was opened, but not all of it was understood.</source>
+        <translation>Der Auftrag wurde geöffnet, aber nicht alles darin wurde verstanden.</translation>
+    </message>
+    <message>
+        <source>The job could not be opened.</source>
+        <translation>Der Auftrag konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Problems (%1)</source>
+        <translation>Probleme (%1)</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Als %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>The job was saved, but the file cannot hold all of it.</source>
+        <translation>Der Auftrag wurde gespeichert, aber nicht alles passt in die Datei.</translation>
+    </message>
+    <message>
+        <source>The job was not saved.</source>
+        <translation>Der Auftrag wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>This sub-job is kept as it is. %1</source>
+        <translation>Dieser Teilauftrag bleibt, wie er ist. %1</translation>
+    </message>
+    <message>
+        <source>Add a setting, or select one in the tree.</source>
+        <translation>Fügen Sie eine Einstellung hinzu oder wählen Sie eine im Baum.</translation>
+    </message>
+    <message>
+        <source>%1[*] - Job editor</source>
+        <translation>%1[*] - Auftragseditor</translation>
+    </message>
+</context>
+<context>
     <name>FreqStoreXml::FileHandling</name>
     <message>
         <source>is no file that can be read, or above 64 MiB</source>
@@ -3609,6 +3851,60 @@
     </message>
 </context>
 <context>
+    <name>PluginPage</name>
+    <message>
+        <source>In use: %1</source>
+        <translation>In Gebrauch: %1</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>Files in the plug-in folders</source>
+        <translation>Dateien in den Plug-in-Ordnern</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Plug-in</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Befund</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsPane</name>
+    <message>
+        <source>Problems of the job</source>
+        <translation>Probleme des Auftrags</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
     <name>ProductionPlugin</name>
     <message>
         <source>Production</source>
@@ -3691,6 +3987,41 @@
     </message>
 </context>
 <context>
+    <name>ResourcePane</name>
+    <message>
+        <source>Receivers that the job takes</source>
+        <translation>Empfänger, die der Auftrag belegt</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Belegt</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 too many</source>
+        <translation>%1 zu viel</translation>
+    </message>
+    <message>
+        <source>not offered by the installation</source>
+        <translation>von der Anlage nicht angeboten</translation>
+    </message>
+</context>
+<context>
     <name>SearchFactory</name>
     <message>
         <source>Search</source>
@@ -3734,6 +4065,586 @@
     </message>
 </context>
 <context>
+    <name>Session::Finding</name>
+    <message>
+        <source>note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>Session::HeadlessDialogs</name>
+    <message>
+        <source>closed</source>
+        <translation>geschlossen</translation>
+    </message>
+    <message>
+        <source>message box: %1
+%2
+answered: %3
+</source>
+        <translation>Meldungsfenster: %1
+%2
+beantwortet: %3
+</translation>
+    </message>
+</context>
+<context>
+    <name>Session::Installation</name>
+    <message>
+        <source>there is no translation into %1, the language of the installation</source>
+        <translation>es gibt keine Übersetzung in %1, die Sprache der Anlage</translation>
+    </message>
+    <message>
+        <source>the installation folder %1 does not exist</source>
+        <translation>der Ordner %1 der Anlage ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>%1 is no installation: it has no %2</source>
+        <translation>%1 ist keine Anlage: %2 fehlt</translation>
+    </message>
+</context>
+<context>
+    <name>Session::JobComposer</name>
+    <message>
+        <source>The receiver keeps the values that it has.</source>
+        <translation>Der Empfänger behält die Werte, die er hat.</translation>
+    </message>
+    <message>
+        <source>there is no type of job &quot;%1&quot;</source>
+        <translation>es gibt keine Auftragsart „%1“</translation>
+    </message>
+    <message>
+        <source>Types are %1.</source>
+        <translation>Die Arten sind %1.</translation>
+    </message>
+    <message>
+        <source>no job was begun</source>
+        <translation>es wurde kein Auftrag begonnen</translation>
+    </message>
+    <message>
+        <source>Begin with: new TYPE [NAME]</source>
+        <translation>Beginn mit: new TYPE [NAME]</translation>
+    </message>
+    <message>
+        <source>the installation offers no &quot;%1&quot;</source>
+        <translation>die Anlage bietet „%1“ nicht an</translation>
+    </message>
+    <message>
+        <source>jedtool resources list shows what it offers.</source>
+        <translation>jedtool resources list zeigt, was sie anbietet.</translation>
+    </message>
+    <message>
+        <source>there is no sub-job %1</source>
+        <translation>es gibt keinen Teilauftrag %1</translation>
+    </message>
+    <message>
+        <source>The job has %1.</source>
+        <translation>Der Auftrag hat %1.</translation>
+    </message>
+    <message>
+        <source>there is no sub-job</source>
+        <translation>es gibt keinen Teilauftrag</translation>
+    </message>
+    <message>
+        <source>Add one with: add TYPE/BASE</source>
+        <translation>Hinzufügen mit: add TYPE/BASE</translation>
+    </message>
+    <message>
+        <source>%1 has no value &quot;%2&quot;</source>
+        <translation>%1 hat keinen Wert „%2“</translation>
+    </message>
+    <message>
+        <source>jedtool resources show %1 lists them.</source>
+        <translation>jedtool resources show %1 zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>sub-job %1, %2</source>
+        <translation>Teilauftrag %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 offers no start-up mode for a job of type %2</source>
+        <translation>%1 bietet keine Startart für Aufträge der Art %2</translation>
+    </message>
+    <message>
+        <source>It offers %1.</source>
+        <translation>Angeboten wird %1.</translation>
+    </message>
+    <message>
+        <source>%1 does not offer the start-up mode &quot;%2&quot; for a job of type %3</source>
+        <translation>%1 bietet die Startart „%2“ für Aufträge der Art %3 nicht an</translation>
+    </message>
+</context>
+<context>
+    <name>Session::JobDocument</name>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>This is no job file, or it is damaged.</source>
+        <translation>Das ist keine Auftragsdatei, oder sie ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The text is kept as it stands, but it counts for nothing.</source>
+        <translation>Der Text bleibt, wie er ist, gilt aber nicht.</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>nicht schreibbar: %1</translation>
+    </message>
+    <message>
+        <source>The file is as it was before.</source>
+        <translation>Die Datei ist, wie sie vorher war.</translation>
+    </message>
+    <message>
+        <source>The job does not follow the schema of job files.</source>
+        <translation>Der Auftrag entspricht nicht dem Schema der Auftragsdateien.</translation>
+    </message>
+</context>
+<context>
+    <name>Session::JobReport</name>
+    <message>
+        <source>sub-job %1, %2</source>
+        <translation>Teilauftrag %1, %2</translation>
+    </message>
+    <message>
+        <source>the installation does not offer this receiver</source>
+        <translation>die Anlage bietet diesen Empfänger nicht an</translation>
+    </message>
+    <message>
+        <source>the receiver does not offer the start-up mode &quot;%1&quot; for this type of job</source>
+        <translation>der Empfänger bietet die Startart „%1“ für diese Auftragsart nicht an</translation>
+    </message>
+    <message>
+        <source>It offers %1.</source>
+        <translation>Angeboten wird %1.</translation>
+    </message>
+    <message>
+        <source>the receiver has %1, which a job file cannot hold</source>
+        <translation>der Empfänger hat %1, wofür in einer Auftragsdatei kein Platz ist</translation>
+    </message>
+    <message>
+        <source>The receiver keeps the values that it has.</source>
+        <translation>Der Empfänger behält die Werte, die er hat.</translation>
+    </message>
+    <message>
+        <source>the receiver does not have the parameter set %1</source>
+        <translation>der Empfänger hat den Parametersatz %1 nicht</translation>
+    </message>
+    <message>
+        <source>%1/%2 does not fit the receiver</source>
+        <translation>%1/%2 passt nicht zum Empfänger</translation>
+    </message>
+    <message>
+        <source>jedtool resources show %1 tells what does.</source>
+        <translation>jedtool resources show %1 sagt, was passt.</translation>
+    </message>
+    <message>
+        <source>%1 does not come back from the value tree as it was</source>
+        <translation>%1 kommt aus dem Wertebaum nicht so zurück, wie es war</translation>
+    </message>
+    <message>
+        <source>saving and loading again does not give the same job</source>
+        <translation>Speichern und erneutes Laden ergibt nicht denselben Auftrag</translation>
+    </message>
+    <message>
+        <source>saving brings the file into our layout</source>
+        <translation>Speichern bringt die Datei in unsere Form</translation>
+    </message>
+    <message>
+        <source>Nothing that it says is changed.</source>
+        <translation>An ihrem Inhalt ändert sich nichts.</translation>
+    </message>
+</context>
+<context>
+    <name>Session::JobSession</name>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>%1 löschen</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>%1 duplizieren</translation>
+    </message>
+    <message>
+        <source>Paste %1</source>
+        <translation>%1 einfügen</translation>
+    </message>
+    <message>
+        <source>Rename %1</source>
+        <translation>%1 umbenennen</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>%1 ändern</translation>
+    </message>
+    <message>
+        <source>Sub-job %1</source>
+        <translation>Teilauftrag %1</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot; claims it but cannot read it.</source>
+        <translation>Das Plug-in „%1“ ist zuständig, kann ihn aber nicht lesen.</translation>
+    </message>
+    <message>
+        <source>No plug-in for this kind of job claims it.</source>
+        <translation>Kein Plug-in für diese Auftragsart ist zuständig.</translation>
+    </message>
+    <message>
+        <source>is kept as it is but cannot be edited</source>
+        <translation>bleibt, wie er ist, lässt sich aber nicht bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>Session::PluginHost</name>
+    <message>
+        <source>plug-in</source>
+        <translation>Plug-in</translation>
+    </message>
+</context>
+<context>
+    <name>Session::ResourceReport</name>
+    <message>
+        <source>no component is called &quot;%1&quot;</source>
+        <translation>keine Komponente heißt „%1“</translation>
+    </message>
+    <message>
+        <source>there is no parameter set &quot;%1&quot;</source>
+        <translation>es gibt keinen Parametersatz „%1“</translation>
+    </message>
+    <message>
+        <source>%1 has two values &quot;%2&quot;</source>
+        <translation>%1 hat zwei Werte „%2“</translation>
+    </message>
+    <message>
+        <source>%1 has no field &quot;%2&quot;</source>
+        <translation>%1 hat kein Feld „%2“</translation>
+    </message>
+    <message>
+        <source>The library skips the file. Mend it, or export it again.</source>
+        <translation>Die Bibliothek überspringt die Datei. Berichtigen Sie sie, oder exportieren Sie sie neu.</translation>
+    </message>
+    <message>
+        <source>version &quot;%1&quot; is outdated, 1.1 or later is needed</source>
+        <translation>Version „%1“ ist veraltet, nötig ist 1.1 oder neuer</translation>
+    </message>
+    <message>
+        <source>The library skips the file and warns. Export the tuner properties again.</source>
+        <translation>Die Bibliothek überspringt die Datei und warnt. Exportieren Sie die Empfängerbeschreibung neu.</translation>
+    </message>
+    <message>
+        <source>the parent &quot;%1&quot; is not among the resources of type %2</source>
+        <translation>die übergeordnete Ressource „%1“ ist keine der Ressourcen vom Typ %2</translation>
+    </message>
+    <message>
+        <source>The resource counts as one without a parent.</source>
+        <translation>Die Ressource gilt als eine ohne übergeordnete.</translation>
+    </message>
+    <message>
+        <source>the parents of %1 lead back to it</source>
+        <translation>die übergeordneten Ressourcen von %1 führen zu ihr zurück</translation>
+    </message>
+    <message>
+        <source>Take the parent out of one of the files in the circle.</source>
+        <translation>Nehmen Sie die übergeordnete Ressource aus einer der Dateien im Kreis heraus.</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>The library takes the file all the same; what it does not understand is left out.</source>
+        <translation>Die Bibliothek nimmt die Datei trotzdem; was sie nicht versteht, bleibt weg.</translation>
+    </message>
+    <message>
+        <source>%1 is described by %2 already</source>
+        <translation>%1 ist schon durch %2 beschrieben</translation>
+    </message>
+    <message>
+        <source>Take one of the two files away, or give it another base resource.</source>
+        <translation>Entfernen Sie eine der beiden Dateien, oder geben Sie ihr eine andere Basisressource.</translation>
+    </message>
+    <message>
+        <source>the connectable resource &quot;%1&quot; is not there</source>
+        <translation>die verbindbare Ressource „%1“ ist nicht vorhanden</translation>
+    </message>
+</context>
+<context>
+    <name>Session::SaveFile</name>
+    <message>
+        <source>it is no regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>der Ordner %1 ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>not everything could be written, the disk may be full</source>
+        <translation>nicht alles konnte geschrieben werden, vielleicht ist der Datenträger voll</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>es gibt keine solche Datei</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>sie ist größer als %1 MiB</translation>
+    </message>
+</context>
+<context>
+    <name>Session::Scenario</name>
+    <message>
+        <source>new TYPE [NAME]</source>
+        <translation>new TYPE [NAME]</translation>
+    </message>
+    <message>
+        <source>open FILE (job editor)</source>
+        <translation>open FILE (Auftragseditor)</translation>
+    </message>
+    <message>
+        <source>add TYPE/BASE [STARTUP-MODE]</source>
+        <translation>add TYPE/BASE [STARTUP-MODE]</translation>
+    </message>
+    <message>
+        <source>set SET/FIELD VALUE</source>
+        <translation>set SET/FIELD VALUE</translation>
+    </message>
+    <message>
+        <source>select NUMBER</source>
+        <translation>select NUMBER</translation>
+    </message>
+    <message>
+        <source>expect subjobs|SET/FIELD VALUE</source>
+        <translation>expect subjobs|SET/FIELD VALUE</translation>
+    </message>
+    <message>
+        <source>save FILE</source>
+        <translation>save FILE</translation>
+    </message>
+    <message>
+        <source>picture FILE (job editor)</source>
+        <translation>picture FILE (Auftragseditor)</translation>
+    </message>
+    <message>
+        <source>dialog TYPE DETECTOR FILE (job editor)</source>
+        <translation>dialog TYPE DETECTOR FILE (Auftragseditor)</translation>
+    </message>
+    <message>
+        <source>Write: %1</source>
+        <translation>Schreibweise: %1</translation>
+    </message>
+    <message>
+        <source>Verbs are %1.%2</source>
+        <translation>Verben sind %1.%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no verb of a scenario</source>
+        <translation>„%1“ ist kein Verb eines Szenarios</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go with %2 arguments</source>
+        <translation>„%1“ nimmt keine %2 Argumente</translation>
+    </message>
+    <message>
+        <source>a quote is not closed</source>
+        <translation>ein Anführungszeichen ist nicht geschlossen</translation>
+    </message>
+</context>
+<context>
+    <name>Session::ScenarioRunner</name>
+    <message>
+        <source>&quot;%1&quot; is a step for the job editor</source>
+        <translation>„%1“ ist ein Schritt für den Auftragseditor</translation>
+    </message>
+    <message>
+        <source>Run it with: jobeditor --batch FILE</source>
+        <translation>Ausführen mit: jobeditor --batch FILE</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of a sub-job</source>
+        <translation>„%1“ ist keine Nummer eines Teilauftrags</translation>
+    </message>
+    <message>
+        <source>%1 is &quot;%2&quot;, not &quot;%3&quot; as expected</source>
+        <translation>%1 ist „%2“ und nicht wie erwartet „%3“</translation>
+    </message>
+</context>
+<context>
+    <name>Session::SessionRunner</name>
+    <message>
+        <source>&quot;%1&quot; is no verb of a scenario</source>
+        <translation>„%1“ ist kein Verb eines Szenarios</translation>
+    </message>
+    <message>
+        <source>there is no type of job &quot;%1&quot;</source>
+        <translation>es gibt keine Auftragsart „%1“</translation>
+    </message>
+    <message>
+        <source>%1 does not offer such a start-up mode for this kind of job</source>
+        <translation>%1 bietet eine solche Startart für diese Auftragsart nicht an</translation>
+    </message>
+    <message>
+        <source>no plug-in takes a sub-job on %1 in this kind of job</source>
+        <translation>kein Plug-in nimmt einen Teilauftrag auf %1 in dieser Auftragsart</translation>
+    </message>
+    <message>
+        <source>the installation offers no &quot;%1&quot;</source>
+        <translation>die Anlage bietet „%1“ nicht an</translation>
+    </message>
+    <message>
+        <source>the sub-job cannot have &quot;%1&quot;</source>
+        <translation>der Teilauftrag kann „%1“ nicht haben</translation>
+    </message>
+    <message>
+        <source>%1 has no field &quot;%2&quot;</source>
+        <translation>%1 hat kein Feld „%2“</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;</source>
+        <translation>%1 nimmt „%2“ nicht an</translation>
+    </message>
+    <message>
+        <source>there is no sub-job %1</source>
+        <translation>es gibt keinen Teilauftrag %1</translation>
+    </message>
+    <message>
+        <source>the sub-job has no &quot;%1&quot;</source>
+        <translation>der Teilauftrag hat kein „%1“</translation>
+    </message>
+    <message>
+        <source>%1 is &quot;%2&quot;, not &quot;%3&quot; as expected</source>
+        <translation>%1 ist „%2“ und nicht wie erwartet „%3“</translation>
+    </message>
+    <message>
+        <source>there are no windows to be drawn</source>
+        <translation>es gibt keine Fenster zu zeichnen</translation>
+    </message>
+    <message>
+        <source>Run it with the job editor.</source>
+        <translation>Führen Sie es mit dem Auftragseditor aus.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 ist nicht schreibbar</translation>
+    </message>
+</context>
+<context>
+    <name>Session::SettingTreeModel</name>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Kept as it is in the job file. %1</source>
+        <translation>Bleibt, wie es in der Auftragsdatei ist. %1</translation>
+    </message>
+</context>
+<context>
+    <name>Session::TunerItem</name>
+    <message>
+        <source>the range %1 is empty</source>
+        <translation>der Bereich %1 ist leer</translation>
+    </message>
+    <message>
+        <source>the default %1 is outside the range %2</source>
+        <translation>die Vorgabe %1 liegt außerhalb des Bereichs %2</translation>
+    </message>
+    <message>
+        <source>the step %1 is negative</source>
+        <translation>der Schritt %1 ist negativ</translation>
+    </message>
+    <message>
+        <source>the range %1 reaches beyond %2, which a job file can hold</source>
+        <translation>der Bereich %1 reicht über %2 hinaus, was eine Auftragsdatei fassen kann</translation>
+    </message>
+    <message>
+        <source>the default %1 is outside %2, which a job file can hold</source>
+        <translation>die Vorgabe %1 liegt außerhalb von %2, was eine Auftragsdatei fassen kann</translation>
+    </message>
+    <message>
+        <source>the default is item %1 of %2</source>
+        <translation>die Vorgabe ist Eintrag %1 von %2</translation>
+    </message>
+    <message>
+        <source>the item &quot;%1&quot; is none of %2</source>
+        <translation>der Eintrag „%1“ ist keines von %2</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>What is to be monitored?</source>
+        <translation>Was soll überwacht werden?</translation>
+    </message>
+    <message>
+        <source>New job</source>
+        <translation>Neuer Auftrag</translation>
+    </message>
+    <message>
+        <source>Recent jobs</source>
+        <translation>Zuletzt geöffnete Aufträge</translation>
+    </message>
+    <message>
+        <source>Example jobs</source>
+        <translation>Beispielaufträge</translation>
+    </message>
+    <message>
+        <source>None yet.</source>
+        <translation>Noch keine.</translation>
+    </message>
+</context>
+<context>
+    <name>TracePane</name>
+    <message>
+        <source>Time (UTC)</source>
+        <translation>Zeit (UTC)</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Filter messages</source>
+        <translation>Meldungen filtern</translation>
+    </message>
+    <message>
+        <source>Traced messages</source>
+        <translation>Aufgezeichnete Meldungen</translation>
+    </message>
+</context>
+<context>
+    <name>TreePane</name>
+    <message>
+        <source>Filter settings</source>
+        <translation>Einstellungen filtern</translation>
+    </message>
+    <message>
+        <source>Settings of the job</source>
+        <translation>Einstellungen des Auftrags</translation>
+    </message>
+</context>
+<context>
     <name>VelmoGui::ParameterSetEditor</name>
     <message>
         <source>%1:</source>
@@ -3768,6 +4679,13 @@
     <message>
         <source>%1: remove the entry</source>
         <translation>%1: Eintrag entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Composes jobs for radio monitoring.</source>
+        <translation>Stellt Aufträge für die Funküberwachung zusammen.</translation>
     </message>
 </context>
 </TS>
