@@ -12,34 +12,15 @@
 #include <QComboBox>
 #include <QFile>
 #include <QPluginLoader>
-#include <QScriptEngine>
 #include <QTimer>
 
 #include <memory>
 
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/lsan_interface.h>
-#endif
-
 namespace JedTest {
-
-/// Lets the script library allocate what it keeps for the life of the process, out of the leak report.
-inline void warmUpScripts()
-{
-#if defined(__SANITIZE_ADDRESS__)
-    __lsan_disable();
-    {
-        QScriptEngine engine;
-        engine.evaluate(QStringLiteral("1"));
-    }
-    __lsan_enable();
-#endif
-}
 
 /// Makes the example station the installation of the process, with the GUI components of this build.
 inline void useStation()
 {
-    warmUpScripts();
     qunsetenv(CfgCenter::ENVIRONMENT_VARIABLE);
     CfgCenter::Instance()->SetInstallation(QStringLiteral(JED_SOURCE_DIR "/installation"));
     CfgCenter::Instance()->AddComponentFolder(QStringLiteral(JED_COMPONENTS));

@@ -5,6 +5,10 @@
 #include <QtTest>
 #include <QtWidgets/qtestsupport_widgets.h>
 
+#if defined(QT_SCRIPT_LIB)
+#include <QScriptEngine>
+#endif
+
 #include <memory>
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -13,8 +17,8 @@
 
 namespace JedTest {
 
-/// Makes the application object of a test. What Qt's platform plug-ins and font libraries allocate once per process and
-/// never free is kept out of the leak report; everything that the test itself allocates stays in it.
+/// Makes the application object of a test. What Qt's platform plug-ins, font and script libraries allocate once per
+/// process and never free is kept out of the leak report; everything that the test itself allocates stays in it.
 /// \param argc  must live as long as the application
 inline std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 {
@@ -22,6 +26,9 @@ inline std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
     __lsan_disable();
 #endif
     auto application = std::make_unique<QApplication>(argc, argv);
+#if defined(__SANITIZE_ADDRESS__) && defined(QT_SCRIPT_LIB)
+    QScriptEngine().collectGarbage();
+#endif
 #if defined(__SANITIZE_ADDRESS__)
     __lsan_enable();
 #endif
