@@ -76,6 +76,8 @@ private slots:
     void refusing();
     void reading_data();
     void reading();
+    void itemsOfAList_data();
+    void itemsOfAList();
 };
 
 void TstValueText::assigning_data()
@@ -259,6 +261,57 @@ void TstValueText::reading()
     QVERIFY2(assignText(s.value.get(), s.field, text, &reason), qPrintable(reason));
     QTEST(JobXml::readableValue(*s.value, s.field), "value");
     QTEST(JobXml::readableRange(*s.value, s.field), "range");
+}
+
+void TstValueText::itemsOfAList_data()
+{
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QStringList>("items");
+    QTest::addColumn<QStringList>("shown");
+    QTest::addColumn<QString>("reason");
+    const QStringList before = {"118000000"};
+    const QStringList beforeShown = {"118 MHz"};
+    QTest::newRow("units") << "ScanSettings"
+                           << "SuppressedFrequency" << QStringList{"121,5 MHz", "243.0M", "9000"}
+                           << QStringList{"121500000", "243000000", "9000"}
+                           << QStringList{"121.5 MHz", "243 MHz", "9 kHz"} << "";
+    QTest::newRow("blanks are left out") << "ScanSettings"
+                                         << "SuppressedFrequency" << QStringList{" 9 kHz ", " ", ""}
+                                         << QStringList{"9000"} << QStringList{"9 kHz"} << "";
+    QTest::newRow("none") << "ScanSettings"
+                          << "SuppressedFrequency" << QStringList() << QStringList() << QStringList() << "";
+    QTest::newRow("no number") << "ScanSettings"
+                               << "SuppressedFrequency" << QStringList{"9 kHz", "channel 16"} << before
+                               << beforeShown << "\"channel 16\" is no whole number in Hz, kHz, MHz, GHz";
+    QTest::newRow("highest") << "ScanSettings"
+                             << "SuppressedFrequency" << QStringList{"40 GHz"} << QStringList{"40000000000"}
+                             << QStringList{"40 GHz"} << "";
+    QTest::newRow("above") << "ScanSettings"
+                           << "SuppressedFrequency" << QStringList{"40000000001"} << before << beforeShown
+                           << "40.000000001 GHz is outside 0 Hz … 40 GHz";
+    QTest::newRow("names and texts") << "CompressionSettings"
+                                     << "ExcludedContent" << QStringList{"Demodulated audio", "Spectra"}
+                                     << QStringList{"Audio", "Spectrum"}
+                                     << QStringList{"Demodulated audio", "Spectra"} << "";
+}
+
+void TstValueText::itemsOfAList()
+{
+    QFETCH(QString, set);
+    QFETCH(QString, path);
+    QFETCH(QStringList, texts);
+    QFETCH(QString, reason);
+    const Field* const field = ParameterSetText::field(set, path);
+    QVERIFY(field);
+    StringList list;
+    list.PushBack("118000000");
+    QString told;
+    QCOMPARE(JobXml::assignItems(&list, field, texts, &told), reason.isEmpty());
+    QCOMPARE(told, reason);
+    QTEST(QStringList(list.GetItems().toList()), "items");
+    QTEST(JobXml::readableItems(list, field), "shown");
 }
 
 QTEST_GUILESS_MAIN(TstValueText)
