@@ -39,7 +39,8 @@ int main(int argc, char* argv[])
         useFixedLooks(isDark);
     QString error;
     if (!Session::chooseInstallation(parser.value(QStringLiteral("installation")),
-                                     QStringLiteral(JED_EXAMPLE_INSTALLATION), &error)) {
+                                     QStringLiteral(JED_EXAMPLE_INSTALLATION), &error) ||
+        !Session::useLanguage(&error)) {
         if (!scenario.isEmpty())
             return failBatch(error);
         QMessageBox::warning(nullptr, text("Job editor"), error);

@@ -21,15 +21,6 @@ QString programFolder(const QString& name)
     return QDir::cleanPath(
         QStringLiteral("%1/../lib/jobeditorve/%2").arg(QCoreApplication::applicationDirPath(), name));
 }
-
-// The language that the installation chooses; texts of the source if it chooses none.
-void useLanguage(QString* error)
-{
-    const QString language =
-        CfgCenter::Instance()->GetAdminCfg(ADMINISTRATION_VIEW)->GetString(QStringLiteral("Language"));
-    if (!TranslationCenter::Instance()->SetLanguage(language))
-        *error = Texts::tr("there is no translation into %1, the language of the installation").arg(language);
-}
 } // namespace
 
 namespace Session {
@@ -51,9 +42,17 @@ bool chooseInstallation(const QString& folder, const QString& exampleFolder, QSt
                      .arg(chosen, QLatin1String(CfgCenter::INI_FILE_NAME));
     else
         *error = center->GetProblems().join(QLatin1Char('\n'));
-    if (error->isEmpty())
-        useLanguage(error);
     return error->isEmpty();
+}
+
+bool useLanguage(QString* error)
+{
+    const QString language =
+        CfgCenter::Instance()->GetAdminCfg(ADMINISTRATION_VIEW)->GetString(QStringLiteral("Language"));
+    if (TranslationCenter::Instance()->SetLanguage(language))
+        return true;
+    *error = Texts::tr("there is no translation into %1, the language of the installation").arg(language);
+    return false;
 }
 
 QString installationFolder()

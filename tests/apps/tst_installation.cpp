@@ -76,13 +76,17 @@ void TstInstallation::aBadLineIsNamed()
 void TstInstallation::languageOfTheInstallation()
 {
     TranslationCenter::Instance()->AddFolder(JED_BINARY_DIR "/lib/jobeditorve/translations");
-    const QString german = makeInstallation("german", "[Administration]\nLanguage = de\n");
-    QVERIFY2(chooseInstallation(german, "", &m_error), qPrintable(m_error));
+    QVERIFY(
+        chooseInstallation(makeInstallation("german", "[Administration]\nLanguage = de\n"), "", &m_error));
+    QCOMPARE(QCoreApplication::translate("JobXml", "Frequency"), QString("Frequency"));
+    QVERIFY2(Session::useLanguage(&m_error), qPrintable(m_error));
     QCOMPARE(QCoreApplication::translate("JobXml", "Frequency"), QString("Frequenz"));
     QVERIFY(chooseInstallation(makeInstallation("english"), "", &m_error));
+    QVERIFY(Session::useLanguage(&m_error));
     QCOMPARE(QCoreApplication::translate("JobXml", "Frequency"), QString("Frequency"));
     const QString unknown = makeInstallation("unknown", "[Administration]\nLanguage = xx\n");
-    QVERIFY(!chooseInstallation(unknown, "", &m_error));
+    QVERIFY(chooseInstallation(unknown, "", &m_error));
+    QVERIFY(!Session::useLanguage(&m_error));
     QCOMPARE(m_error, QString("there is no translation into xx, the language of the installation"));
     TranslationCenter::Instance()->SetLanguage(QString());
 }
