@@ -28,7 +28,10 @@ namespace Session {
 bool chooseInstallation(const QString& folder, const QString& exampleFolder, QString* error)
 {
     CfgCenter* const center = CfgCenter::Instance();
-    center->SetDefaultInstallation(exampleFolder);
+    // An installed program brings the example along.
+    const QString brought = QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                            QStringLiteral("/../share/jobeditorve/installation"));
+    center->SetDefaultInstallation(QFileInfo(brought).isDir() ? brought : exampleFolder);
     center->SetInstallation(folder);
     // The components that belong to the running program; the installation's own come first.
     center->AddComponentFolder(programFolder(QStringLiteral("components")));
