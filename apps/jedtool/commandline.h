@@ -69,6 +69,7 @@ struct Noun
 
 Noun resourcesNoun();
 Noun jobNoun();
+Noun pluginNoun();
 
 /// Runs what the arguments (without the program's name) ask for.
 ExitCode runCommandLine(const QStringList& arguments);
