@@ -147,6 +147,8 @@ void TstJedtool::output_data()
         "resources check wrong/TemplateFolder/duplicate-1.xml wrong/TemplateFolder/missing-parent.xml",
         "resources check outdated/TemplateFolder/no-version.xml",
         "resources check jobs/search.xml --installation bare", "resources check none.xml"};
+    QTest::newRow("plugin") << QStringList{"plugin list --plugin-dir jobs", "plugin inspect search",
+                                           "plugin inspect Production --format json", "plugin inspect serch"};
     QTest::newRow("job") << QStringList{
         "job new --type Search --name \"Morning watch\" --resource HT720/HF-1 "
         "--startup-mode Automatic --set TunerSettings/CenterFrequency=8.4145M "

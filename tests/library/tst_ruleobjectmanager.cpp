@@ -1,3 +1,5 @@
+#include <support/testmain.h>
+
 #include "rulesamples.h"
 
 #include <QThread>
@@ -549,6 +551,6 @@ void TstRuleObjectManager::mutexIsFreeAfterARun()
     QVERIFY(isDone);
 }
 
-QTEST_GUILESS_MAIN(TstRuleObjectManager)
+JED_TEST_MAIN(TstRuleObjectManager)
 
 #include "tst_ruleobjectmanager.moc"

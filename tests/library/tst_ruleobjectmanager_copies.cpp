@@ -1,3 +1,5 @@
+#include <support/testmain.h>
+
 #include "rulesamples.h"
 
 #include <QProcess>
@@ -33,7 +35,7 @@ public:
 /// What the child process does: uses a manager, then leaves it to the end of the process.
 int leaveAManagerBehind(int argc, char** argv)
 {
-    const QCoreApplication application(argc, argv);
+    const auto application = JedTest::makeApplication(argc, argv);
     RuleBench bench;
     s_leftBehind = new RuleObjectManager(bench.script("function f() { Finder.found = 'x'; }"));
     auto* const finder = new EngineFinder(nullptr, QString(), s_leftBehind);
@@ -225,7 +227,7 @@ int main(int argc, char** argv)
 {
     if (argc > 1 && qstrcmp(argv[1], UNLOAD_ARGUMENT) == 0)
         return leaveAManagerBehind(argc, argv);
-    QCoreApplication application(argc, argv);
+    const auto application = JedTest::makeApplication(argc, argv);
     TstRuleObjectManagerCopies test;
     QTEST_SET_MAIN_SOURCE_PATH
     return QTest::qExec(&test, argc, argv);

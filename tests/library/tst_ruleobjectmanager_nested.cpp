@@ -1,3 +1,5 @@
+#include <support/testmain.h>
+
 #include "rulesamples.h"
 
 #include <support/changerecorder.h>
@@ -349,6 +351,6 @@ void TstRuleObjectManagerNested::executionSwitchedOffInside()
     off->DeleteObserver(&switcher);
 }
 
-QTEST_GUILESS_MAIN(TstRuleObjectManagerNested)
+JED_TEST_MAIN(TstRuleObjectManagerNested)
 
 #include "tst_ruleobjectmanager_nested.moc"

@@ -1,3 +1,5 @@
+#include <support/testmain.h>
+
 #include "rulesamples.h"
 
 #include <support/changerecorder.h>
@@ -317,6 +319,6 @@ void TstScriptableNumeric::scriptConversions()
     QCOMPARE(setup.run("f"), seen);
 }
 
-QTEST_GUILESS_MAIN(TstScriptableNumeric)
+JED_TEST_MAIN(TstScriptableNumeric)
 
 #include "tst_scriptablenumeric.moc"

@@ -1,3 +1,5 @@
+#include <support/testmain.h>
+
 #include "rulesamples.h"
 
 #include <support/changerecorder.h>
@@ -631,6 +633,6 @@ void TstScriptableObject::objectDeletedByItsRule()
     other->DeleteObserver(&deleter);
 }
 
-QTEST_GUILESS_MAIN(TstScriptableObject)
+JED_TEST_MAIN(TstScriptableObject)
 
 #include "tst_scriptableobject.moc"

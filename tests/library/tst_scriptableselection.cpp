@@ -1,3 +1,5 @@
+#include <support/testmain.h>
+
 #include "rulesamples.h"
 
 #include <support/changerecorder.h>
@@ -199,6 +201,6 @@ void TstScriptableSelection::wrongNumberOfArguments()
     QCOMPARE(value->GetItemCount(), 0);
 }
 
-QTEST_GUILESS_MAIN(TstScriptableSelection)
+JED_TEST_MAIN(TstScriptableSelection)
 
 #include "tst_scriptableselection.moc"
