@@ -146,7 +146,7 @@ void TstScriptableObject::metaObjects()
 void TstScriptableObject::selectionParameterNames()
 {
     const QMetaObject& meta = ScriptableSelection::staticMetaObject;
-    const auto names = [&meta](const char* signature) {
+    const auto names = [&](const char* signature) {
         return meta.method(meta.indexOfMethod(signature)).parameterNames().join(',');
     };
     QCOMPARE(names("AddItemToSelection(int,QString,double)"), QByteArray("index,name,val"));
