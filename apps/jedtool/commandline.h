@@ -74,6 +74,9 @@ Noun pluginNoun();
 /// Runs what the arguments (without the program's name) ask for.
 ExitCode runCommandLine(const QStringList& arguments);
 
+/// The folders with plug-ins: those of the options "plugin-dir", then the usual ones.
+QStringList pluginFolders(const Invocation& invocation);
+
 /// Writes to the standard output.
 void print(const QString& text);
 /// Writes one line to the error output.

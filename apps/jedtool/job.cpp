@@ -4,8 +4,11 @@
 #include <session/jobdocument.h>
 #include <session/joboutline.h>
 #include <session/jobreport.h>
+#include <session/jobsession.h>
+#include <session/pluginhost.h>
 #include <session/savefile.h>
 #include <session/scenariorunner.h>
+#include <session/sessionrunner.h>
 
 namespace JedTool {
 
@@ -124,25 +127,46 @@ bool readScenario(const QString& path, Session::Scenario* scenario)
     return false;
 }
 
+// Tells what was written and found.
+ExitCode tell(const QStringList& files, int subjobs, const Session::Findings& findings, bool isJson)
+{
+    if (isJson)
+        printJson({{QStringLiteral("files"), QJsonArray::fromStringList(files)},
+                   {QStringLiteral("subjobs"), subjobs},
+                   {QStringLiteral("findings"), Session::toJson(findings)}});
+    else
+        printFindings(findings);
+    for (const QString& file : files) {
+        if (!isJson)
+            print(Texts::tr("%1: written, sub-jobs: %2\nNext: jedtool job check %1\n")
+                      .arg(file, QString::number(subjobs)));
+    }
+    return Session::needsAttention(findings) ? FINDINGS : CLEAN;
+}
+
 ExitCode runScenario(const Session::Scenario& scenario, bool isJson)
 {
     static const ExitCode EXIT_CODES[] = {CLEAN, USAGE, FINDINGS, INTERNAL};
     Session::ScenarioRunner runner(resources());
     const Session::ScenarioRunner::Outcome outcome = runner.run(scenario);
-    if (isJson)
-        printJson({{QStringLiteral("files"), QJsonArray::fromStringList(runner.savedFiles())},
-                   {QStringLiteral("subjobs"), runner.subjobCount()},
-                   {QStringLiteral("findings"), Session::toJson(runner.findings())}});
-    else
-        printFindings(runner.findings());
-    for (const QString& file : runner.savedFiles()) {
-        if (!isJson)
-            print(Texts::tr("%1: written, sub-jobs: %2\nNext: jedtool job check %1\n")
-                      .arg(file, QString::number(runner.subjobCount())));
-    }
-    if (outcome == Session::ScenarioRunner::DONE)
-        return Session::needsAttention(runner.findings()) ? FINDINGS : CLEAN;
-    return EXIT_CODES[outcome];
+    const ExitCode told = tell(runner.savedFiles(), runner.subjobCount(), runner.findings(), isJson);
+    return outcome == Session::ScenarioRunner::DONE ? told : EXIT_CODES[outcome];
+}
+
+// The same through the factory of a plug-in, as in the editor.
+ExitCode runWithPlugin(const Session::Scenario& scenario, const Invocation& invocation)
+{
+    Session::PluginHost host;
+    host.load(pluginFolders(invocation));
+    const QString name = invocation.value(QStringLiteral("plugin"));
+    JEDVEPLUGIN::JEDSubSettingFactory* const factory = host.factory(name);
+    if (!factory)
+        return usageError(Texts::tr("no plug-in is called \"%1\"; jedtool plugin list shows them").arg(name));
+    Session::JobSession session({factory});
+    Session::SessionRunner runner(&session, nullptr);
+    const bool isDone = runner.run(scenario);
+    const ExitCode told = tell(runner.files(), session.topLevelCount(), runner.findings(), invocation.isJson);
+    return isDone ? told : USAGE;
 }
 
 ExitCode compose(const Invocation& invocation)
@@ -161,7 +185,8 @@ ExitCode compose(const Invocation& invocation)
         print(scenario.toText());
         return CLEAN;
     }
-    return runScenario(scenario, invocation.isJson);
+    return invocation.isSet(QStringLiteral("plugin")) ? runWithPlugin(scenario, invocation)
+                                                      : runScenario(scenario, invocation.isJson);
 }
 
 QString scenarioHelp()
@@ -220,6 +245,8 @@ Noun jobNoun()
         {"set", "SET/FIELD=VALUE", QT_TRANSLATE_NOOP("jedtool", "a value of the sub-job")},
         {"out", "FILE", QT_TRANSLATE_NOOP("jedtool", "the job file to write")},
         {"scenario", "FILE", QT_TRANSLATE_NOOP("jedtool", "run this scenario instead of the options above")},
+        {"plugin", "NAME", QT_TRANSLATE_NOOP("jedtool", "compose through this plug-in, as the editor does")},
+        {"plugin-dir", "DIR", QT_TRANSLATE_NOOP("jedtool", "a further folder with plug-ins")},
         {"print-scenario", nullptr, QT_TRANSLATE_NOOP("jedtool", "show the scenario, run nothing")},
     };
     return {"job",

@@ -28,10 +28,15 @@ int main(int argc, char** argv)
 {
     // The library asks for an application that can show message boxes; there is no screen to show them on.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
+    // Qt has options of its own, "--plugin" among them: it sees none of ours.
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    int ownCount = 1;
+    const std::unique_ptr<QApplication> application = makeApplication(ownCount, argv);
     const Session::HeadlessDialogs dialogs;
     try {
-        return JedTool::runCommandLine(application->arguments().mid(1));
+        return JedTool::runCommandLine(arguments);
     } catch (const std::exception& fault) {
         JedTool::printError(
             JedTool::Texts::tr("jedtool: internal fault: %1").arg(QString::fromUtf8(fault.what())));

@@ -38,16 +38,6 @@ const char* const INSPECT_DETAILS = QT_TRANSLATE_NOOP(
 const Option PLUGIN_DIR = {"plugin-dir", "DIR",
                            QT_TRANSLATE_NOOP("jedtool", "a further folder with plug-ins")};
 
-QStringList foldersOf(const Invocation& invocation)
-{
-    QStringList folders;
-    for (const auto& option : invocation.options) {
-        if (option.first == QLatin1String(PLUGIN_DIR.name))
-            folders.append(option.second);
-    }
-    return folders + PluginHost::defaultFolders();
-}
-
 void printJson(const QJsonDocument& document)
 {
     print(QString::fromUtf8(document.toJson()));
@@ -68,7 +58,7 @@ QJsonObject toJson(const PluginHost::Plugin& plugin)
 ExitCode list(const Invocation& invocation)
 {
     PluginHost host;
-    host.load(foldersOf(invocation));
+    host.load(pluginFolders(invocation));
     QJsonArray array;
     TextTable table;
     bool isClean = !host.plugins().empty();
@@ -166,7 +156,7 @@ QString inspectionToText(JEDSubSettingFactory* factory)
 ExitCode inspect(const Invocation& invocation)
 {
     PluginHost host;
-    host.load(foldersOf(invocation));
+    host.load(pluginFolders(invocation));
     const QString wanted = invocation.arguments.value(0);
     JEDSubSettingFactory* const factory = host.factory(wanted);
     if (!factory) {
@@ -185,6 +175,16 @@ ExitCode inspect(const Invocation& invocation)
     return CLEAN;
 }
 } // namespace
+
+QStringList pluginFolders(const Invocation& invocation)
+{
+    QStringList folders;
+    for (const auto& option : invocation.options) {
+        if (option.first == QLatin1String(PLUGIN_DIR.name))
+            folders.append(option.second);
+    }
+    return folders + PluginHost::defaultFolders();
+}
 
 Noun pluginNoun()
 {

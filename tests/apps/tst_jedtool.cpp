@@ -149,6 +149,11 @@ void TstJedtool::output_data()
         "resources check jobs/search.xml --installation bare", "resources check none.xml"};
     QTest::newRow("plugin") << QStringList{"plugin list --plugin-dir jobs", "plugin inspect search",
                                            "plugin inspect Production --format json", "plugin inspect serch"};
+    QTest::newRow("job-plugin") << QStringList{
+        search + "--set TunerSettings/CenterFrequency=8.4145M --plugin search --out plugin.xml",
+        "job check plugin.xml", search + "--plugin nobody --out plugin.xml",
+        search + "--set NoSet/Field=1 --plugin search --out plugin.xml",
+        "job new --type Measurement --resource HT720/HF-1 --plugin search --out plugin.xml --format json"};
     QTest::newRow("job") << QStringList{
         "job new --type Search --name \"Morning watch\" --resource HT720/HF-1 "
         "--startup-mode Automatic --set TunerSettings/CenterFrequency=8.4145M "
