@@ -15,6 +15,10 @@ project(Elsewhere LANGUAGES CXX)
 find_package(JobEditorVE REQUIRED)
 add_subdirectory(minimal)
 add_subdirectory(search)
+set(CMAKE_AUTOMOC ON)
+add_executable(tst_elsewhere tst_elsewhere.cpp)
+target_compile_features(tst_elsewhere PRIVATE cxx_std_17)
+target_link_libraries(tst_elsewhere PRIVATE JobEditorVE::PluginKit JobEditorVE::TestSupport)
 """
 
 
@@ -38,6 +42,7 @@ class Package(unittest.TestCase):
         cls.work = cls.root / "work"
         for name in ("minimal", "search"):
             shutil.copytree(SOURCE / "plugins" / name, cls.work / name)
+        shutil.copy(SOURCE / "tests/package/tst_elsewhere.cpp", cls.work)
         (cls.work / "CMakeLists.txt").write_text(PROJECT)
         cls.steps = [run("cmake", "-S", cls.work, "-B", cls.work / "build", "-G", "Ninja",
                          f"-DCMAKE_PREFIX_PATH={cls.prefix}", "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"
@@ -70,6 +75,13 @@ class Package(unittest.TestCase):
         self.assertEqual(code, 0, text)
         code, text = run(self.prefix / "bin/jedtool", "job", "check", self.work / "job.xml")
         self.assertEqual(code, 0, text)
+
+    def test_plugins_own_test_runs_on_the_test_support(self):
+        library = next((self.work / "build").glob("lib/jobeditorve/plugins-*/libsearch.so"))
+        code, text = run(self.work / "build/tst_elsewhere", library, self.prefix / "share/jobeditorve/installation",
+                         self.prefix / "lib/jobeditorve/components")
+        self.assertEqual(code, 0, text)
+        self.assertRegex(text, "Totals: [1-9][0-9]* passed, 0 failed, 0 skipped")
 
     def test_installed_tool_reads_the_installation_beside_it(self):
         code, text = run(self.prefix / "bin/jedtool", "resources", "check")

@@ -1,20 +1,15 @@
 #pragma once
 
-#include <ijobeditorplugin.h>
-#include <jedabstractsubsettingfactory.h>
 #include <jobxml/job.h>
 #include <quilappstartup/cfgcenter.h>
 #include <resourceselectiondialog.h>
-#include <support/tracerecorder.h>
+#include <support/plugindriver.h>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
-#include <QPluginLoader>
 #include <QTimer>
-
-#include <memory>
 
 namespace JedTest {
 
@@ -26,34 +21,18 @@ inline void useStation()
     CfgCenter::Instance()->AddComponentFolder(QStringLiteral(JED_COMPONENTS));
 }
 
-/// A plug-in of this build, loaded as the editor does, with its factory.
-class LoadedPlugin
+/// A plug-in of this build.
+class LoadedPlugin : public PluginDriver
 {
 public:
     /// \param name  "minimal"
-    /// \param path  value-tree path below which its node lies
-    /// \param rulesDir  folder of its rule scripts; empty: no rules
     explicit LoadedPlugin(const QString& name, const QString& path = QStringLiteral("/Test/"),
                           const QString& rulesDir = QString())
-        : m_loader(
-              QStringLiteral("%1/lib%2.so").arg(name == "minimal" ? JED_EXAMPLE_PLUGINS : JED_PLUGINS, name))
+        : PluginDriver(
+              QStringLiteral("%1/lib%2.so").arg(name == "minimal" ? JED_EXAMPLE_PLUGINS : JED_PLUGINS, name),
+              path, rulesDir)
     {
-        auto* const plugin = qobject_cast<JEDVEPLUGIN::IJobEditorPlugin*>(m_loader.instance());
-        if (!plugin)
-            qFatal("%s", qPrintable(m_loader.errorString()));
-        m_factory.reset(plugin->createFactory());
-        TraceRecorder traces; // The names of the tuner property files.
-        m_factory->setRulesDir(rulesDir);
-        m_factory->initialize(path, nullptr);
-        m_factory->initializeRuleEngine();
     }
-
-    JEDVEPLUGIN::JEDAbstractSubSettingFactory* operator->() const { return m_factory.get(); }
-    JEDVEPLUGIN::JEDAbstractSubSettingFactory* get() const { return m_factory.get(); }
-
-private:
-    QPluginLoader m_loader;
-    std::unique_ptr<JEDVEPLUGIN::JEDAbstractSubSettingFactory> m_factory;
 };
 
 /// A sub-job that names a receiver and nothing else.
