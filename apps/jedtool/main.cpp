@@ -7,11 +7,12 @@
 #include <session/headlessdialogs.h>
 
 #if defined(__SANITIZE_ADDRESS__)
+#include <QScriptEngine>
 #include <sanitizer/lsan_interface.h>
 #endif
 
 namespace {
-// What Qt's platform plug-ins and font libraries allocate once per process and never free is no leak of ours.
+// What Qt's platform plug-ins, font and script libraries allocate once per process and never free is no leak of ours.
 std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 {
 #if defined(__SANITIZE_ADDRESS__)
@@ -20,7 +21,11 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
     // Nobody sees the windows, so what Qt has to say about them does not matter. Traces are for those who ask for them
     // with QT_LOGGING_RULES, which comes before these rules.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false\njobeditorve.trace=false"));
-    return std::make_unique<QApplication>(argc, argv);
+    auto application = std::make_unique<QApplication>(argc, argv);
+#if defined(__SANITIZE_ADDRESS__)
+    QScriptEngine().collectGarbage();
+#endif
+    return application;
 }
 } // namespace
 
