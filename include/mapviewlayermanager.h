@@ -22,7 +22,8 @@ namespace JEDVEPLUGIN {
 /// tells what the user moves or deletes there. There is one for the process.
 ///
 /// Objects live here until they are removed or the user deletes them on the map, whether there is a map or not: they
-/// are drawn when the link comes, and again after it was lost. An object's id is never used twice. GUI thread only.
+/// are drawn when the link comes, and again after it was lost. Ids are counted up; a new object takes the place of one
+/// that an update made under its id. GUI thread only.
 class JEDVEPB_EXPORT MapViewLayerManager : public QObject, public MapViewInterface
 {
     Q_OBJECT

@@ -321,6 +321,8 @@ tObjectID MapViewLayerManager::addObject(const QString& layer, const QString& na
     const tObjectID id = nextObjId();
     if (id == 0)
         return 0;
+    // An update may have made an object under an id that was still to come.
+    removeObject(id);
     m_data->objects.insert(id, {0, layer, name, tooltip, type, points});
     draw(id);
     return id;

@@ -48,6 +48,7 @@ private slots:
     void updateChangesTheType();
     void updateOfNothing();
     void updateOfAnUnknownIdMakesIt();
+    void newObjectReplacesOneMadeUnderItsId();
     void updateOfTheToolTip();
     void removal();
     void removalOfMany();
@@ -71,6 +72,7 @@ private slots:
     void everythingIsDrawnAfterTheLinkCame();
     void withoutALink();
     void linkIsLostAndComesBack();
+    void signalsComeWithTheObjectsStillDrawn();
 
 private:
     MapViewLayerManager& manager() { return *MapViewLayerManager::getInstance("editor"); }
@@ -290,6 +292,18 @@ void TstMapViewLayerManager::updateOfAnUnknownIdMakesIt()
     QCOMPARE(lines(), QStringList({"tooltip u 0"}));
 }
 
+void TstMapViewLayerManager::newObjectReplacesOneMadeUnderItsId()
+{
+    const Id id = manager().addRect("up", "a", QRectF(0, 0, 1, 1), "");
+    m_ids.append(id);
+    manager().updateRect(id + 1, "made", QRectF(0, 0, 1, 1), "");
+    lines();
+    m_ids.append(manager().addRect("up", "b", QRectF(0, 0, 1, 1), ""));
+    QCOMPARE(m_ids.last(), id + 1);
+    QCOMPARE(lines(),
+             QStringList({"delete  172", "delete  173", "group b 0", "rect b 0 0,1 1,0", "tooltip  0"}));
+}
+
 void TstMapViewLayerManager::updateOfTheToolTip()
 {
     m_ids.append(manager().addRect("up", "n", QRectF(0, 0, 1, 1), "a"));
@@ -320,6 +334,7 @@ void TstMapViewLayerManager::removalOfMany()
     const QStringList said = lines();
     QCOMPARE(said.count("delete  172"), 2);
     QCOMPARE(said.count("delete  173"), 2);
+    QCOMPARE(said.first(), QString("paint  0"));
     QCOMPARE(said.last(), QString("paint  1"));
 }
 
@@ -609,6 +624,29 @@ void TstMapViewLayerManager::linkIsLostAndComesBack()
     QTRY_COMPARE(link.size(), 2);
     QCOMPARE(link[1][0].toBool(), true);
     QCOMPARE(lines().filter("rect n").size(), 1);
+}
+
+// Who hears of the link finds everything drawn, and who hears of a deletion still finds the object.
+void TstMapViewLayerManager::signalsComeWithTheObjectsStillDrawn()
+{
+    const Id id = manager().addRect("order", "n", QRectF(0, 0, 1, 1), "");
+    lines();
+    QVector<int> types;
+    const auto note = [&] { types.append(manager().getObjectType(id)); };
+    QObject receiver;
+    connect(&manager(), &MapViewLayerManager::linkStateChanged, &receiver, note);
+    connect(&manager(), &MapViewLayerManager::objectDeleted, &receiver, note);
+    m_map->stop();
+    QTRY_VERIFY(!manager().isConnected());
+    note();
+    QVERIFY(m_map->start());
+    QTRY_COMPARE(types.size(), 3);
+    lines();
+    m_map->send(MAP_GROUP_DELETED, lastId(MAP_CREATE_GROUP));
+    QTRY_COMPARE(types.size(), 4);
+    note();
+    const int drawn = MapViewLayerManager::OBJ_GROUP;
+    QCOMPARE(types, QVector<int>({drawn, 0, drawn, drawn, 0}));
 }
 
 QTEST_GUILESS_MAIN(TstMapViewLayerManager)
