@@ -152,6 +152,9 @@ bool FrequencyStoreListProfile::importSignalDescription(QString& xml, JobXml::Si
         traceError({TracePoints::FREQUENCY_STORE_LIST_PROFILE, __LINE__},
                    QStringLiteral("FrequencyStoreListProfile::importSignalDescription: ") +
                        exception.GetMessage());
+    } catch (...) {
+        // Other failures have no message of their own, and nothing may leave.
+        return false;
     }
     return false;
 }
