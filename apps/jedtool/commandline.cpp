@@ -37,7 +37,7 @@ const char* const TRACES = QT_TRANSLATE_NOOP(
 
 const QVector<Noun>& nouns()
 {
-    static const QVector<Noun> all{resourcesNoun(), jobNoun(), pluginNoun()};
+    static const QVector<Noun> all{resourcesNoun(), jobNoun(), pluginNoun(), rulesNoun()};
     return all;
 }
 

@@ -70,6 +70,7 @@ struct Noun
 Noun resourcesNoun();
 Noun jobNoun();
 Noun pluginNoun();
+Noun rulesNoun();
 
 /// Runs what the arguments (without the program's name) ask for.
 ExitCode runCommandLine(const QStringList& arguments);

@@ -37,11 +37,18 @@ QString Finding::toText() const
     }
     if (!result.isEmpty())
         result += QLatin1Char(' ');
-    result += QCoreApplication::translate("Session::Finding", SEVERITY_NAMES[severity]) +
-              QLatin1String(": ") + text;
+    result += QCoreApplication::translate("Session::Finding", SEVERITY_NAMES[severity]);
+    if (!code.isEmpty())
+        result += QLatin1String(" [") + code + QLatin1Char(']');
+    result += QLatin1String(": ") + text;
     if (!advice.isEmpty())
         result += QLatin1String("\n    ") + advice;
     return result;
+}
+
+QString severityName(Finding::Severity severity)
+{
+    return QLatin1String(SEVERITY_NAMES[severity]);
 }
 
 QJsonArray toJson(const Findings& findings)
@@ -49,7 +56,8 @@ QJsonArray toJson(const Findings& findings)
     QJsonArray result;
     for (const Finding& finding : findings) {
         QJsonObject object;
-        object.insert(QLatin1String("severity"), QLatin1String(SEVERITY_NAMES[finding.severity]));
+        object.insert(QLatin1String("severity"), severityName(finding.severity));
+        insertText(&object, QLatin1String("code"), finding.code);
         insertText(&object, QLatin1String("place"), finding.place);
         insertNumber(&object, QLatin1String("line"), finding.line);
         insertNumber(&object, QLatin1String("column"), finding.column);

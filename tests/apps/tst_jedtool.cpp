@@ -117,7 +117,10 @@ void TstJedtool::output_data()
                                          "job --help",
                                          "job new --help",
                                          "job show --help",
-                                         "job check --help"};
+                                         "job check --help",
+                                         "rules --help",
+                                         "rules check --help",
+                                         "rules findings --help"};
     QTest::newRow("usage") << QStringList{"",
                                           "resources",
                                           "resorces list",
@@ -149,6 +152,7 @@ void TstJedtool::output_data()
         "resources check jobs/search.xml --installation bare", "resources check none.xml"};
     QTest::newRow("plugin") << QStringList{"plugin list --plugin-dir jobs", "plugin inspect search",
                                            "plugin inspect Production --format json", "plugin inspect serch"};
+    QTest::newRow("rules-findings") << QStringList{"rules findings", "rules findings --markdown"};
     QTest::newRow("job-plugin") << QStringList{
         search + "--set TunerSettings/CenterFrequency=8.4145M --plugin search --out plugin.xml",
         "job check plugin.xml", search + "--plugin nobody --out plugin.xml",
