@@ -285,6 +285,30 @@ Anlage: %3</translation>
         <source>%1[*] - Job editor</source>
         <translation>%1[*] - Auftragseditor</translation>
     </message>
+    <message>
+        <source>Re&amp;cover...</source>
+        <translation>Wieder&amp;herstellen...</translation>
+    </message>
+    <message>
+        <source>Recover jobs</source>
+        <translation>Aufträge wiederherstellen</translation>
+    </message>
+    <message>
+        <source>There is no job to be recovered.</source>
+        <translation>Es gibt keinen Auftrag, der wiederherzustellen wäre.</translation>
+    </message>
+    <message>
+        <source>No copy of the job for recovery could be kept: %1</source>
+        <translation>Es konnte keine Sicherungskopie des Auftrags angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>The job was recovered, but there is something to know about it.</source>
+        <translation>Der Auftrag wurde wiederhergestellt, aber es gibt etwas zu beachten.</translation>
+    </message>
+    <message>
+        <source>The job could not be recovered.</source>
+        <translation>Der Auftrag konnte nicht wiederhergestellt werden.</translation>
+    </message>
 </context>
 <context>
     <name>FreqStoreXml::FileHandling</name>
@@ -3944,6 +3968,57 @@ Anlage: %3</translation>
     </message>
 </context>
 <context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Recover jobs</source>
+        <translation>Aufträge wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The job editor ended before these jobs were saved. A recovered job is opened with its changes; its file stays as it is until you save.</source>
+        <translation>Der Auftragseditor wurde beendet, bevor diese Aufträge gespeichert waren. Ein wiederhergestellter Auftrag wird mit seinen Änderungen geöffnet; seine Datei bleibt, wie sie ist, bis Sie speichern.</translation>
+    </message>
+    <message>
+        <source>Jobs that were not saved</source>
+        <translation>Nicht gespeicherte Aufträge</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Last change (UTC)</source>
+        <translation>Letzte Änderung (UTC)</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>&amp;Verwerfen...</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Später</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <translation>nie gespeichert</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Give the changes of &quot;%1&quot; up for good?</source>
+        <translation>Die Änderungen von „%1“ endgültig aufgeben?</translation>
+    </message>
+</context>
+<context>
     <name>ReportLayer</name>
     <message>
         <source>The name of an attribute holds a wrong character</source>
@@ -4319,6 +4394,21 @@ beantwortet: %3
     </message>
 </context>
 <context>
+    <name>Session::Recovery</name>
+    <message>
+        <source>was saved by another program after the recovered job was read from it</source>
+        <translation>wurde von einem anderen Programm gespeichert, nachdem der wiederhergestellte Auftrag daraus gelesen worden war</translation>
+    </message>
+    <message>
+        <source>Compare the two before you save.</source>
+        <translation>Vergleichen Sie beide, bevor Sie speichern.</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be written to</source>
+        <translation>in den Ordner %1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
     <name>Session::ResourceReport</name>
     <message>
         <source>no component is called &quot;%1&quot;</source>
@@ -4466,6 +4556,10 @@ beantwortet: %3
         <source>a quote is not closed</source>
         <translation>ein Anführungszeichen ist nicht geschlossen</translation>
     </message>
+    <message>
+        <source>wait SECONDS (job editor)</source>
+        <translation>wait SEKUNDEN (Auftragseditor)</translation>
+    </message>
 </context>
 <context>
     <name>Session::ScenarioRunner</name>
@@ -4543,6 +4637,10 @@ beantwortet: %3
     <message>
         <source>%1 cannot be written</source>
         <translation>%1 ist nicht schreibbar</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to wait</source>
+        <translation>„%1“ ist keine Wartezeit</translation>
     </message>
 </context>
 <context>

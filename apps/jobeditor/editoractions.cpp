@@ -40,6 +40,10 @@ void EditorWindow::buildFileMenu()
     menu->addAction(tr("&Open..."), this, &EditorWindow::open, QKeySequence::Open);
     QMenu* const recent = menu->addMenu(tr("Open &recent"));
     connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(recent); });
+    menu->addAction(tr("Re&cover..."), this, [this] {
+        if (!offerRecovery())
+            QMessageBox::information(this, tr("Recover jobs"), tr("There is no job to be recovered."));
+    });
     menu->addSeparator();
     m_jobActions << menu->addAction(tr("&Save"), this, &EditorWindow::save, QKeySequence::Save)
                  << menu->addAction(tr("Save &as..."), this, &EditorWindow::saveAs, QKeySequence::SaveAs)

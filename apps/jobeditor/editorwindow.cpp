@@ -2,6 +2,7 @@
 
 #include "editorpane.h"
 #include "problemspane.h"
+#include "recoverydialog.h"
 #include "resourcepane.h"
 #include "startpage.h"
 #include "tracepane.h"
@@ -25,6 +26,8 @@
 using JEDVEPLUGIN::ISubSetting;
 using Session::Findings;
 using Session::JobSession;
+using Session::LeftJob;
+using Session::Recovery;
 
 namespace {
 constexpr int DOCK_HEIGHT = 150;
@@ -34,6 +37,7 @@ EditorWindow::EditorWindow(Session::PluginHost* host, JobSession* session)
     : m_host(host)
     , m_session(session)
     , m_watcher(new QFileSystemWatcher(this))
+    , m_recovery(new Recovery(session, Recovery::defaultFolder(), this))
     , m_pages(new QStackedWidget(this))
     , m_startPage(new StartPage(this))
     , m_tree(new TreePane(session, this))
@@ -64,6 +68,9 @@ EditorWindow::EditorWindow(Session::PluginHost* host, JobSession* session)
     connect(session->undoStack(), &QUndoStack::indexChanged, this, &EditorWindow::updateTitle);
     connect(session->undoStack(), &QUndoStack::cleanChanged, this, &EditorWindow::updateTitle);
     connect(m_watcher, &QFileSystemWatcher::fileChanged, this, &EditorWindow::fileChanged);
+    connect(m_recovery, &Recovery::failed, this, [this](const QString& reason) {
+        statusBar()->showMessage(tr("No copy of the job for recovery could be kept: %1").arg(reason));
+    });
     showStart();
 }
 
@@ -86,15 +93,40 @@ bool EditorWindow::openFile(const QString& path)
     const bool isOpen = m_session->open(path, &findings);
     if (isOpen) {
         remember(path);
-        watchFile(path);
-        showJob();
-        m_tree->setCurrentSetting(m_session->settingAt({0}));
+        showOpened();
     }
     if (Session::needsAttention(findings))
         tell(isOpen ? tr("The job was opened, but not all of it was understood.")
                     : tr("The job could not be opened."),
              findings);
     return isOpen;
+}
+
+void EditorWindow::showOpened()
+{
+    watchFile(m_session->document().path());
+    showJob();
+    m_tree->setCurrentSetting(m_session->settingAt({0}));
+}
+
+bool EditorWindow::offerRecovery()
+{
+    const QList<LeftJob> jobs = Recovery::leftJobs(Recovery::defaultFolder());
+    if (jobs.isEmpty())
+        return false;
+    RecoveryDialog dialog(jobs, this);
+    if (dialog.exec() != QDialog::Accepted || !askToSave())
+        return true;
+    m_editor->clear();
+    Findings findings;
+    const bool isOpen = m_recovery->recover(dialog.chosen(), &findings);
+    if (isOpen)
+        showOpened();
+    if (Session::needsAttention(findings))
+        tell(isOpen ? tr("The job was recovered, but there is something to know about it.")
+                    : tr("The job could not be recovered."),
+             findings);
+    return true;
 }
 
 void EditorWindow::setCurrentSetting(ISubSetting* setting)

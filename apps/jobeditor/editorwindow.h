@@ -19,6 +19,7 @@ class JEDSubSettingFactory;
 namespace Session {
 class JobSession;
 class PluginHost;
+class Recovery;
 } // namespace Session
 
 /// The job editor's window: the setting tree at the left, the editor of the selected setting beside it, problems,
@@ -38,6 +39,10 @@ public:
 
     /// Shows the session's job instead of the start page.
     void showJob();
+
+    /// Offers the jobs that were not saved when an editor came to no good end, if there are any.
+    /// \return whether there were
+    bool offerRecovery();
 
     /// Window and docks as they were when the editor was last used.
     void restoreLayout();
@@ -79,6 +84,7 @@ private:
     void showProblem(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet, const QString& field);
 
     void showStart();
+    void showOpened();
     void showCurrent();
     void updateActions();
     void updateTitle();
@@ -86,6 +92,7 @@ private:
     Session::PluginHost* m_host;    // Not owned.
     Session::JobSession* m_session; // Not owned.
     class QFileSystemWatcher* m_watcher;
+    Session::Recovery* m_recovery;
     QStackedWidget* m_pages;
     StartPage* m_startPage;
     TreePane* m_tree;

@@ -56,5 +56,6 @@ int main(int argc, char* argv[])
     window.show();
     if (!parser.positionalArguments().isEmpty())
         window.openFile(parser.positionalArguments().first());
+    window.offerRecovery();
     return QApplication::exec();
 }

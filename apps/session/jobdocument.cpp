@@ -43,8 +43,13 @@ bool JobDocument::load(const QString& path, Findings* findings)
             {Finding::FAILURE, path, 0, 0, Texts::tr("cannot be read: %1").arg(reason), QString()});
         return false;
     }
+    return take(bytes, path, findings);
+}
+
+bool JobDocument::take(const QByteArray& content, const QString& path, Findings* findings)
+{
     JobXml::Job job;
-    if (!job.SetXmlString(decodedText(bytes), true)) {
+    if (!job.SetXmlString(decodedText(content), true)) {
         findings->append({Finding::FAILURE, path, job.GetCheckLine(), job.GetCheckColumn(),
                           job.GetCheckReason(), Texts::tr("This is no job file, or it is damaged.")});
         return false;
@@ -55,7 +60,7 @@ bool JobDocument::load(const QString& path, Findings* findings)
     }
     m_job = job;
     m_path = path;
-    m_loadedText = bytes;
+    m_loadedText = content;
     return true;
 }
 

@@ -20,6 +20,10 @@ public:
     /// \return false, with the document as it was, if the file cannot be read or is no job; the reason is a finding
     bool load(const QString& path, Findings* findings);
 
+    /// Takes over the content of a job file, as load() does.
+    /// \param path  the file that it belongs to; may be empty
+    bool take(const QByteArray& content, const QString& path, Findings* findings);
+
     /// Writes the job in one piece, after validating it.
     /// \return false, with the old file untouched; the reason is a finding
     bool save(const QString& path, Findings* findings);

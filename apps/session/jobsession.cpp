@@ -71,12 +71,18 @@ bool JobSession::open(const QString& path, Findings* findings)
     JobDocument document;
     if (!document.load(path, findings))
         return false;
-    drop();
-    m_document = document;
-    const JEDVE::enJOB_TYPE type = jobType();
-    for (Factory* factory : qAsConst(m_factories))
-        factory->slot_setCurrentJobType(type);
-    takeOver(m_document.job(), findings);
+    takeOver(document, findings);
+    emit jobReplaced();
+    return true;
+}
+
+bool JobSession::recover(const QByteArray& content, const QString& path, Findings* findings)
+{
+    JobDocument document;
+    if (!document.take(content, path, findings))
+        return false;
+    takeOver(document, findings);
+    m_undoStack.resetClean();
     emit jobReplaced();
     return true;
 }
@@ -94,20 +100,20 @@ bool JobSession::save(const QString& path, Findings* findings)
 
 bool JobSession::compose(Findings* findings)
 {
-    flushEdits();
     bool isComplete = true;
-    QVector<JobXml::Subjob> subjobs;
-    for (const TopLevel& top : m_topLevel) {
-        JobXml::Subjob subjob = top.subjob;
-        QList<Problem> problems;
-        if (top.setting && !top.factory->writeSubjob(top.setting, subjob, &problems))
-            isComplete = false;
-        appendFindings(problems, top.setting ? top.setting->getDisplayName() : QString(), findings);
-        subjobs.append(subjob);
-    }
+    const QVector<JobXml::Subjob> subjobs = writtenSubjobs(&isComplete, findings);
     if (isComplete)
         m_document.job().SetSubjob(subjobs);
     return isComplete;
+}
+
+QByteArray JobSession::draft()
+{
+    JobDocument draft = m_document;
+    bool isComplete = true;
+    Findings findings;
+    draft.job().SetSubjob(writtenSubjobs(&isComplete, &findings));
+    return draft.text();
 }
 
 bool JobSession::isModified() const
@@ -330,11 +336,16 @@ void JobSession::drop()
         factory->clear();
 }
 
-void JobSession::takeOver(const JobXml::Job& job, Findings* findings)
+void JobSession::takeOver(const JobDocument& document, Findings* findings)
 {
+    drop();
     const QScopedValueRollback<bool> working(m_isWorking, true);
+    m_document = document;
+    const JEDVE::enJOB_TYPE type = jobType();
+    for (Factory* factory : qAsConst(m_factories))
+        factory->slot_setCurrentJobType(type);
     int number = 0;
-    for (const JobXml::Subjob& subjob : job.GetSubjob()) {
+    for (const JobXml::Subjob& subjob : m_document.job().GetSubjob()) {
         ++number;
         m_topLevel.push_back(read(subjob, tr("Sub-job %1").arg(number), findings));
         if (Setting* const setting = m_topLevel.back().setting)
@@ -342,6 +353,21 @@ void JobSession::takeOver(const JobXml::Job& job, Findings* findings)
     }
     for (Factory* factory : qAsConst(m_factories))
         factory->setModified(false);
+}
+
+QVector<JobXml::Subjob> JobSession::writtenSubjobs(bool* isComplete, Findings* findings)
+{
+    flushEdits();
+    QVector<JobXml::Subjob> result;
+    for (const TopLevel& top : m_topLevel) {
+        JobXml::Subjob subjob = top.subjob;
+        QList<Problem> problems;
+        if (top.setting && !top.factory->writeSubjob(top.setting, subjob, &problems))
+            *isComplete = false;
+        appendFindings(problems, top.setting ? top.setting->getDisplayName() : QString(), findings);
+        result.append(subjob);
+    }
+    return result;
 }
 
 JobSession::TopLevel JobSession::newTopLevel(Factory* factory, Setting* setting, const JobXml::Subjob& subjob)

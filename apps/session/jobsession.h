@@ -63,12 +63,19 @@ public:
     /// Drops the present job and takes a job file over.
     /// \return false, with the job as it was, if the file cannot be read; the reason is a finding
     bool open(const QString& path, Findings* findings);
+    /// Drops the present job and takes the content of a job file over as a job that is changed and not saved.
+    /// \param path  the file that the job is saved to; empty if there is none yet
+    /// \return false, with the job as it was, if the content is no job; the reason is a finding
+    bool recover(const QByteArray& content, const QString& path, Findings* findings);
     /// Writes the job in one piece.
     /// \return false, with the old file untouched; the reason is a finding
     bool save(const QString& path, Findings* findings);
     /// Writes the settings into the document, as save() does, without a file.
     /// \return false if a plug-in says that a setting must not be saved as it is
     bool compose(Findings* findings);
+
+    /// The job file as it stands, also where a plug-in says that a setting must not be saved as it is.
+    QByteArray draft();
 
     bool isModified() const;
     JobDocument& document() { return m_document; }
@@ -128,7 +135,8 @@ private:
     using Texts = QHash<QString, QString>;
 
     void drop();
-    void takeOver(const JobXml::Job& job, Findings* findings);
+    void takeOver(const JobDocument& document, Findings* findings);
+    QVector<JobXml::Subjob> writtenSubjobs(bool* isComplete, Findings* findings);
     TopLevel newTopLevel(Factory* factory, Setting* setting, const JobXml::Subjob& subjob);
     TopLevel read(const JobXml::Subjob& subjob, const QString& place, Findings* findings);
     void watch(Factory* factory);

@@ -26,6 +26,7 @@ const Verb VERBS[] = {
     {QLatin1String("picture"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "picture FILE (job editor)")},
     {QLatin1String("dialog"), 3, 3,
      QT_TRANSLATE_NOOP("Session::Scenario", "dialog TYPE DETECTOR FILE (job editor)")},
+    {QLatin1String("wait"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "wait SECONDS (job editor)")},
 };
 
 class Texts

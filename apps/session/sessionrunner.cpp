@@ -8,7 +8,9 @@
 #include <jobxml/suggestion.h>
 #include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
+#include <QTimer>
 #include <reportlayer/fieldaccess.h>
 #include <resourcedescription.h>
 
@@ -18,6 +20,8 @@ using JEDVEPLUGIN::ResourceDescription;
 namespace Session {
 
 namespace {
+constexpr double MAX_WAIT = 24 * 60 * 60; // s
+
 class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Session::SessionRunner)
@@ -104,6 +108,7 @@ bool SessionRunner::runStep(const Scenario::Step& step)
         {QLatin1String("save"), &SessionRunner::save},
         {QLatin1String("picture"), &SessionRunner::picture},
         {QLatin1String("dialog"), &SessionRunner::dialog},
+        {QLatin1String("wait"), &SessionRunner::wait},
     };
     m_line = step.line;
     for (const Action& action : ACTIONS) {
@@ -227,6 +232,18 @@ bool SessionRunner::dialog(const QStringList& arguments)
 {
     const QString file = arguments.value(2);
     return drawn(m_artist && m_artist->drawDialog(arguments.value(0), arguments.value(1), file), file);
+}
+
+bool SessionRunner::wait(const QStringList& arguments)
+{
+    bool isNumber = false;
+    const double seconds = arguments.value(0).toDouble(&isNumber);
+    if (!isNumber || !(seconds >= 0 && seconds <= MAX_WAIT))
+        return refuse(Texts::tr("\"%1\" is no time to wait").arg(arguments.value(0)));
+    QEventLoop loop;
+    QTimer::singleShot(int(seconds * 1000), &loop, &QEventLoop::quit);
+    loop.exec();
+    return true;
 }
 
 bool SessionRunner::drawn(bool isWritten, const QString& file)

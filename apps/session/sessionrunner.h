@@ -45,6 +45,7 @@ private:
     bool save(const QStringList& arguments);
     bool picture(const QStringList& arguments);
     bool dialog(const QStringList& arguments);
+    bool wait(const QStringList& arguments);
     bool drawn(bool isWritten, const QString& file);
     bool refuse(const QString& text, const QString& advice = QString());
     JobSession::Setting* carrierOf(const QString& parameterSet);

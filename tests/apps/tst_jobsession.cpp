@@ -519,6 +519,8 @@ void TstJobSession::scenarioStopsAtTheFirstFault_data()
     QTest::newRow("expected value") << "new Search\nadd HT720/HF-1\nset TunerSettings/CenterFrequency 8M\n"
                                        "expect TunerSettings/CenterFrequency 9M"
                                     << 4;
+    QTest::newRow("time") << "new Search\nwait long" << 2;
+    QTest::newRow("time before now") << "new Search\nwait -1" << 2;
     QTest::newRow("picture") << "new Search\npicture a.png" << 2;
     QTest::newRow("unwritable file") << "new Search\nsave /nonexistent/job.xml" << 0;
 }
