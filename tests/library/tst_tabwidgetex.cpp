@@ -4,6 +4,7 @@
 #include <support/testmain.h>
 
 #include <QAction>
+#include <QDialog>
 #include <QMenu>
 #include <QMetaMethod>
 #include <QPointer>
@@ -103,6 +104,8 @@ private slots:
     void classesAreKnownToQt();
     void freshWidget();
     void freshButton();
+    void buttonIsAsSmallAsItMayBe();
+    void buttonOfADialogIsNotItsDefault();
     void buttonShowsTheActiveIconUnderTheMouse();
     void disabledButtonKeepsTheNormalIcon();
     void disabledMeanwhileTheButtonGetsTheNormalIcon();
@@ -119,6 +122,7 @@ private slots:
     void lastRemovedActionDisablesTheButton();
     void actionIsFoundByItsWholeText();
     void clearedActionsAreDeleted();
+    void clearedActionOfAnotherOwnerIsSilent();
     void actionsAfterClearingWork();
     void withoutMenuNothingHappens();
     void tabIsMadeUnclosableAndBack();
@@ -198,6 +202,24 @@ void TstTabWidgetEx::freshButton()
     QCOMPARE(button()->styleSheet(), QString("QPushButton::menu-indicator{ image: url(none.jpg); }"));
     m_tabs->show();
     QVERIFY(button()->isVisible());
+}
+
+void TstTabWidgetEx::buttonIsAsSmallAsItMayBe()
+{
+    QPushButton like(QIcon(NORMAL_ICON), "");
+    like.setFlat(true);
+    like.setMenu(new QMenu(&like));
+    QCOMPARE(button()->minimumSize(), like.sizeHint());
+}
+
+void TstTabWidgetEx::buttonOfADialogIsNotItsDefault()
+{
+    QDialog dialog;
+    const TabWidgetEx tabs(&dialog);
+    QPushButton other(&dialog);
+    QVERIFY(other.autoDefault());
+    QVERIFY(!buttonOf(tabs)->autoDefault());
+    QVERIFY(!buttonOf(tabs)->isDefault());
 }
 
 void TstTabWidgetEx::buttonShowsTheActiveIconUnderTheMouse()
@@ -398,10 +420,25 @@ void TstTabWidgetEx::clearedActionsAreDeleted()
     QVERIFY(!button()->isEnabled());
 }
 
+void TstTabWidgetEx::clearedActionOfAnotherOwnerIsSilent()
+{
+    m_tabs->appendAddAction("A", false);
+    QObject owner;
+    QAction* const kept = action(*m_tabs, "A");
+    kept->setParent(&owner);
+    QSignalSpy told(m_tabs.get(), &TabWidgetEx::si_addTab);
+    kept->trigger();
+    QCOMPARE(told.count(), 1);
+    m_tabs->clearAddActions();
+    QVERIFY(menuOf(*m_tabs)->isEmpty());
+    kept->trigger();
+    QCOMPARE(told.count(), 1);
+}
+
 void TstTabWidgetEx::actionsAfterClearingWork()
 {
     m_tabs->appendAddAction("A", false);
-    // One that is not the menu's own survives, but is told no more.
+    // One that is not the menu's own survives.
     QAction stranger("S");
     menuOf(*m_tabs)->addAction(&stranger);
     m_tabs->clearAddActions();
