@@ -89,15 +89,18 @@ void FrequencyListView::reset()
 
 void FrequencyListView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
+    const QPersistentModelIndex shown = current; // whatever the receivers of the signal do to the model
     updateRow(previous);
     emit si_currentFrequencyChanged(current.row(), previous.row());
-    if (!current.isValid())
+    if (!shown.isValid())
         return;
     // While rows go, nothing is laid out: only afterwards it is known what brings the current row into view.
-    if (state() == QAbstractItemView::CollapsingState)
+    if (state() == QAbstractItemView::CollapsingState) {
         QMetaObject::invokeMethod(this, &FrequencyListView::scrollToCurrent, Qt::QueuedConnection);
-    else
-        scrollToCurrent();
+        return;
+    }
+    scrollTo(shown, QAbstractItemView::EnsureVisible);
+    updateRow(shown); // which may have become bold without a change of the selection
 }
 
 void FrequencyListView::layoutAboutToChange()
@@ -266,7 +269,7 @@ void FrequencyListView::scrollToCurrent()
     if (!currentIndex().isValid())
         return;
     scrollTo(currentIndex(), QAbstractItemView::EnsureVisible);
-    updateRow(currentIndex()); // which may have become bold without a change of the selection
+    updateRow(currentIndex());
 }
 
 bool FrequencyListView::isInView(const QModelIndex& index)

@@ -60,6 +60,7 @@ private slots:
     void modelThatDiesLeavesAnEmptyView();
     void currentRowIsAnnouncedAndShown();
     void currentRowFromNoneAndToNone();
+    void rowThatIsNamedIsShown();
     void previousRowIsPaintedAnew();
     void currentRowIsPaintedAnewWithoutSelection();
     void layoutSlotsNameTheCurrentRow();
@@ -226,6 +227,22 @@ void TstFrequencyListView::currentRowFromNoneAndToNone()
     m_view->setCurrentIndex(m_model->index(1, 0));
     QCOMPARE(m_signals->take(), QString("current 1 -1"));
     QCOMPARE(m_view->m_scrolled, QStringList("1:0"));
+}
+
+void TstFrequencyListView::rowThatIsNamedIsShown()
+{
+    // By name, as a selection model of the caller's own may do.
+    const auto tell = [this](const QModelIndex& current, const QModelIndex& previous) {
+        return QMetaObject::invokeMethod(m_view.get(), "currentChanged", Q_ARG(QModelIndex, current),
+                                         Q_ARG(QModelIndex, previous));
+    };
+    QVERIFY(tell(m_model->index(6, 1), m_model->index(2, 0)));
+    QCOMPARE(m_signals->take(), QString("current 6 2"));
+    QCOMPARE(m_view->m_scrolled, QStringList("6:0"));
+    QCOMPARE(m_view->currentIndex().row(), 0);
+    QVERIFY(tell(QModelIndex(), m_model->index(2, 0)));
+    QCOMPARE(m_signals->take(), QString("current -1 2"));
+    QCOMPARE(m_view->m_scrolled, QStringList("6:0"));
 }
 
 void TstFrequencyListView::previousRowIsPaintedAnew()
