@@ -49,7 +49,7 @@ void EditorWindow::buildFileMenu()
                  << menu->addAction(tr("Save &as..."), this, &EditorWindow::saveAs, QKeySequence::SaveAs)
                  << menu->addAction(tr("Re&vert"), this, &EditorWindow::revert);
     menu->addSeparator();
-    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
 }
 
 void EditorWindow::buildEditMenu()

@@ -159,6 +159,8 @@ void EditorWindow::buildDocks()
         dock->setObjectName(name);
         dock->setWidget(content);
         addDockWidget(Qt::BottomDockWidgetArea, dock);
+        // A dock behind another one is not hidden but out of sight: the focus is not to go there.
+        connect(dock, &QDockWidget::visibilityChanged, content, &QWidget::setEnabled);
         return dock;
     };
     m_problems = new ProblemsPane(m_session, this);
@@ -230,6 +232,7 @@ void EditorWindow::showJob()
 {
     m_hasJob = true;
     m_pages->setCurrentIndex(1);
+    m_tree->setFocus();
     showCurrent();
     updateTitle();
 }

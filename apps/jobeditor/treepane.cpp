@@ -35,6 +35,7 @@ TreePane::TreePane(JobSession* session, QWidget* parent)
     m_view->setModel(m_filter);
     m_view->setHeaderHidden(true);
     m_view->setUniformRowHeights(true);
+    setFocusProxy(m_view);
     m_view->setDragDropMode(QAbstractItemView::DragDrop);
     m_view->setDefaultDropAction(Qt::MoveAction);
     m_view->setEditTriggers(QAbstractItemView::EditKeyPressed);
@@ -42,6 +43,11 @@ TreePane::TreePane(JobSession* session, QWidget* parent)
     connect(m_view, &QWidget::customContextMenuRequested, this, &TreePane::showRowMenu);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, &TreePane::currentChanged);
     connect(m_filter, &QAbstractItemModel::modelReset, m_view, &QTreeView::expandAll);
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex& parent, int first, int last) {
+                for (int row = first; row <= last; ++row)
+                    m_view->expandRecursively(m_filter->index(row, 0, parent));
+            });
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

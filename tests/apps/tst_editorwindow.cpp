@@ -1,10 +1,10 @@
+#include <support/accessiblenames.h>
 #include <support/testmain.h>
 
 #include <isubsetting.h>
 #include <jedsubsettingfactory.h>
 #include <jobeditor/editorwindow.h>
 #include <jobeditor/pluginpage.h>
-#include <QAccessible>
 #include <QClipboard>
 #include <QCommandLinkButton>
 #include <QLineEdit>
@@ -19,6 +19,8 @@
 #include <session/jobsession.h>
 #include <session/pluginhost.h>
 #include <session/savefile.h>
+
+#include <functional>
 
 using JEDVEPLUGIN::ISubSetting;
 using Session::JobSession;
@@ -38,18 +40,6 @@ QAction* findAction(const QList<QAction*>& actions, const QString& text)
         }
     }
     return nullptr;
-}
-
-void collectNameless(QAccessibleInterface* element, QStringList* nameless)
-{
-    const auto* const widget = qobject_cast<QWidget*>(element->object());
-    if (element->state().focusable && widget && widget->focusPolicy() != Qt::NoFocus &&
-        element->text(QAccessible::Name).isEmpty())
-        nameless->append(QString("%1 %2").arg(widget->metaObject()->className(), widget->objectName()));
-    for (int i = 0; i < element->childCount(); ++i) {
-        if (QAccessibleInterface* const child = element->child(i))
-            collectNameless(child, nameless);
-    }
 }
 } // namespace
 
@@ -298,11 +288,17 @@ void TstEditorWindow::everyControlHasAName()
 {
     QFETCH(QString, name);
     QVERIFY(open(name));
-    if (qEnvironmentVariableIsSet("JED_PICTURES"))
-        m_window->grab().save(qEnvironmentVariable("JED_PICTURES") + "/editor-" + name + ".png");
-    QStringList nameless;
-    collectNameless(QAccessible::queryAccessibleInterface(m_window.get()), &nameless);
-    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(", ")));
+    const std::function<void(ISubSetting*)> visit = [this, &visit](ISubSetting* setting) {
+        m_window->setCurrentSetting(setting);
+        const QStringList nameless = JedTest::namelessControls(m_window.get());
+        QVERIFY2(nameless.isEmpty(), qPrintable(setting->getDisplayName() + ": " + nameless.join(", ")));
+        for (int row = 0; row < setting->childCount(); ++row)
+            visit(setting->child(row));
+    };
+    for (int i = 0; i < m_session->topLevelCount(); ++i) {
+        if (ISubSetting* const setting = m_session->settingAt({i}))
+            visit(setting);
+    }
 }
 
 JED_TEST_MAIN(TstEditorWindow)
