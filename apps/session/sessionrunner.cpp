@@ -1,11 +1,15 @@
 #include "sessionrunner.h"
 
+#include "fieldplaces.h"
+
 #include <isubsetting.h>
 #include <jedcommonhelper.h>
 #include <jedsubsettingfactory.h>
+#include <jobxml/parametersettext.h>
 #include <jobxml/quantity.h>
 #include <jobxml/settings.h>
 #include <jobxml/suggestion.h>
+#include <jobxml/valuetext.h>
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -169,17 +173,34 @@ bool SessionRunner::set(const QStringList& arguments)
     JobSession::Setting* const setting = carrierOf(setName);
     if (!setting)
         return refuse(Texts::tr("the sub-job cannot have \"%1\"").arg(setName));
-    const auto element = elementOf(setName, setting->parameterSetText(setName));
+    m_shown = setting;
+    m_session->endEditStep();
+    // As an operator does it, whom rules follow.
+    ValueBase* const value = setting->isReadOnly() ? nullptr : fieldValue(setting, setName, fieldPath);
+    if (!value)
+        return setInText(setting, setName, fieldPath, arguments.value(1));
+    QString reason;
+    if (!JobXml::assignText(value, JobXml::ParameterSetText::field(setName, fieldPath), arguments.value(1),
+                            &reason))
+        return refuse(QStringLiteral("%1: %2").arg(path, reason));
+    m_session->flushEdits();
+    return true;
+}
+
+bool SessionRunner::setInText(JobSession::Setting* setting, const QString& parameterSet,
+                              const QString& fieldPath, const QString& text)
+{
+    const auto element = elementOf(parameterSet, setting->parameterSetText(parameterSet));
     const REPORTGENERATOR::Field* const field =
         element ? REPORTGENERATOR::findField(element->table(), fieldPath) : nullptr;
     if (!field)
-        return refuse(Texts::tr("%1 has no field \"%2\"").arg(setName, fieldPath));
-    if (!REPORTGENERATOR::setFieldText(*element, fieldPath, fileText(*field, arguments.value(1))))
-        return refuse(Texts::tr("%1 does not take \"%2\"").arg(path, arguments.value(1)));
-    m_shown = setting;
-    m_session->endEditStep();
-    return m_session->setParameterSet(setting, setName, element->GetXmlString()) ||
-           refuse(Texts::tr("%1 does not take \"%2\"").arg(path, arguments.value(1)));
+        return refuse(Texts::tr("%1 has no field \"%2\"").arg(parameterSet, fieldPath),
+                      element
+                          ? JobXml::suggestion(fieldPath, JobXml::ParameterSetText::fieldPaths(parameterSet))
+                          : QString());
+    return (REPORTGENERATOR::setFieldText(*element, fieldPath, fileText(*field, text)) &&
+            m_session->setParameterSet(setting, parameterSet, element->GetXmlString())) ||
+           refuse(Texts::tr("%1/%2 does not take \"%3\"").arg(parameterSet, fieldPath, text));
 }
 
 bool SessionRunner::select(const QStringList& arguments)

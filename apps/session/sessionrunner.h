@@ -40,6 +40,8 @@ private:
     bool open(const QStringList& arguments);
     bool add(const QStringList& arguments);
     bool set(const QStringList& arguments);
+    bool setInText(JobSession::Setting* setting, const QString& parameterSet, const QString& fieldPath,
+                   const QString& text);
     bool select(const QStringList& arguments);
     bool expect(const QStringList& arguments);
     bool save(const QStringList& arguments);

@@ -3,7 +3,7 @@
 #include <velmogui/velmogui_export.h>
 
 #include <QHash>
-#include <QString>
+#include <QStringList>
 #include <QWidget>
 
 class Node;
@@ -31,6 +31,10 @@ public:
     /// \param values  their node; not owned, may go before the editor, whose controls are disabled then
     ParameterSetEditor(const QString& name, Node* values, QWidget* parent = nullptr);
 
+    /// The name of the parameter set.
+    const QString& name() const { return m_name; }
+    /// The paths of the fields that have a control, in no order.
+    QStringList fields() const { return m_controls.keys(); }
     /// The control of a value, by the path of its field; null if there is none.
     ValueControl* control(const QString& field) const;
     /// Whether its values can only be looked at; at first they can be changed.

@@ -36,6 +36,8 @@ public:
 
     /// What the user works with, and what carries the name and the focus. Qt owns it.
     QWidget* widget() const { return m_widget; }
+    /// Null when it has gone. Not owned.
+    ValueBase* value() const { return m_value; }
     /// Why the text in the control was not taken; empty if the value is what is shown.
     const QString& fault() const { return m_fault; }
     /// What can be seen, copied and reached, but not changed. At first it can be changed.
