@@ -1,4 +1,4 @@
-#include "commandline.h"
+#include "ruletrace.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -65,6 +65,7 @@ Noun rulesNoun()
                  {},
                  check,
                  nullptr},
+                ruleTraceVerb(),
                 {"findings",
                  "",
                  QT_TRANSLATE_NOOP("jedtool", "explain the numbers of findings"),

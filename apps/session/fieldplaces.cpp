@@ -41,6 +41,17 @@ ISubSetting* findSetting(ISubSetting* setting, const QString& valueTreePath)
 }
 } // namespace
 
+ISubSetting* findCarrier(ISubSetting* setting, const QString& parameterSet)
+{
+    if (!setting || setting->parameterSetNames().contains(parameterSet))
+        return setting;
+    for (int i = 0; i < setting->childCount(); ++i) {
+        if (ISubSetting* const found = findCarrier(setting->child(i), parameterSet))
+            return found;
+    }
+    return nullptr;
+}
+
 ValueBase* fieldValue(ISubSetting* setting, const QString& parameterSet, const QString& field)
 {
     const QWidget* const widget = setting->getWidget();

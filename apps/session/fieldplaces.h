@@ -20,6 +20,10 @@ struct FieldPlace
     QString field;
 };
 
+/// \p setting or the first one below it that carries a parameter set; null if there is none.
+/// \param setting  may be null
+JEDVEPLUGIN::ISubSetting* findCarrier(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet);
+
 /// The value behind a field, as the setting's editor shows it, so that the editor is made if there is none yet.
 /// \return null if the editor has no such field. The value tree's.
 ValueBase* fieldValue(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet, const QString& field);

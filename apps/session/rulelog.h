@@ -12,6 +12,9 @@
 
 namespace Session {
 
+/// How long a rule may run in the programs that show rules, in milliseconds.
+constexpr int RULE_TIME_LIMIT = 5000;
+
 /// A value that was changed, in readable form.
 struct RuleChange
 {

@@ -200,7 +200,8 @@ bool SessionRunner::setInText(JobSession::Setting* setting, const QString& param
                           : QString());
     return (REPORTGENERATOR::setFieldText(*element, fieldPath, fileText(*field, text)) &&
             m_session->setParameterSet(setting, parameterSet, element->GetXmlString())) ||
-           refuse(Texts::tr("%1/%2 does not take \"%3\"").arg(parameterSet, fieldPath, text));
+           refuse(
+               Texts::tr("%1 does not take \"%2\"").arg(parameterSet + QLatin1Char('/') + fieldPath, text));
 }
 
 bool SessionRunner::select(const QStringList& arguments)
@@ -301,18 +302,6 @@ JobSession::Setting* SessionRunner::carrierOf(const QString& parameterSet)
             return made;
         if (made)
             m_session->undoStack()->undo();
-    }
-    return nullptr;
-}
-
-JobSession::Setting* SessionRunner::findCarrier(JobSession::Setting* setting,
-                                                const QString& parameterSet) const
-{
-    if (!setting || setting->parameterSetNames().contains(parameterSet))
-        return setting;
-    for (int i = 0; i < setting->childCount(); ++i) {
-        if (JobSession::Setting* const found = findCarrier(setting->child(i), parameterSet))
-            return found;
     }
     return nullptr;
 }

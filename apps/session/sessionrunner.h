@@ -51,7 +51,6 @@ private:
     bool drawn(bool isWritten, const QString& file);
     bool refuse(const QString& text, const QString& advice = QString());
     JobSession::Setting* carrierOf(const QString& parameterSet);
-    JobSession::Setting* findCarrier(JobSession::Setting* setting, const QString& parameterSet) const;
 
     JobSession* m_session; // Not owned.
     Artist* m_artist;      // Not owned.

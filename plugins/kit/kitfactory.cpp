@@ -62,6 +62,8 @@ KitFactory::KitFactory(const PluginDeclaration& declaration)
     : JEDAbstractSubSettingFactory(declaration.name, declaration.hasDetector, declaration.hasPreClassifier)
     , m_declaration(declaration)
 {
+    // Tools may want to try another script in its place.
+    setProperty("ruleFile", declaration.ruleFile);
     jobTypes = declaration.jobTypes;
     m_childTypes.insert(QString(), {QLatin1String(SUB_JOB)});
     for (const SettingType& type : declaration.types) {

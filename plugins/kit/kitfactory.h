@@ -15,6 +15,8 @@ struct NodeText;
 /// A parameter set is written into the job file when there is a node that carries it. What a sub-job of a job file
 /// holds beyond the declared sets stays in it.
 ///
+/// The name of the rule file is the factory's property "ruleFile".
+///
 /// A sub-job without a dialog: readSubjob() of one that names a receiver, then createSubSetting() of the nodes that
 /// it is to have.
 class KitFactory : public JEDVEPLUGIN::JEDAbstractSubSettingFactory

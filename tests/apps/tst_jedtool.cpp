@@ -61,6 +61,7 @@ void TstJedtool::init()
     for (const QString name : {"outdated-number.xml", "no-version.xml"})
         QVERIFY(QFile::copy(data + "tuner/" + name, m_folder->filePath("outdated/TemplateFolder/" + name)));
     QVERIFY(copyFiles(data + "jobs", m_folder->filePath("jobs")));
+    QVERIFY(copyFiles(data + "rules/trace", m_folder->filePath("rules")));
 }
 
 TstJedtool::Result TstJedtool::run(const QString& command, const QStringList& environment)
@@ -153,6 +154,26 @@ void TstJedtool::output_data()
     QTest::newRow("plugin") << QStringList{"plugin list --plugin-dir jobs", "plugin inspect search",
                                            "plugin inspect Production --format json", "plugin inspect serch"};
     QTest::newRow("rules-findings") << QStringList{"rules findings", "rules findings --markdown"};
+    const QString trace = "rules trace rules/nested.js --plugin search ";
+    const QString hf = "--resource HT720/HF-1 ";
+    QTest::newRow("rules-trace") << QStringList{
+        trace + hf +
+            "--set TunerSettings/Bandwidth=5k --set TunerSettings/Gain=3 --set TunerSettings/Bandwidth=5k",
+        trace + "--set TunerSettings/Bandwidth=5k --format json",
+        "rules trace rules/unreadable.js --plugin search --set TunerSettings/Bandwidth=5k"};
+    QTest::newRow("rules-trace-refused")
+        << QStringList{"rules trace --help",
+                       "rules trace",
+                       "rules trace none.js --plugin search --set TunerSettings/Bandwidth=5k",
+                       "rules trace rules/nested.js --set TunerSettings/Bandwidth=5k",
+                       "rules trace rules/nested.js --plugin serch --set TunerSettings/Bandwidth=5k",
+                       "rules trace rules/nested.js --plugin dfscan --set TunerSettings/Bandwidth=5k",
+                       trace,
+                       trace + "--set TunerSettings/Bandwidth",
+                       trace + "--set TunerSettings/Bandwith=5k",
+                       trace + "--resource HT720/HF1 --set TunerSettings/Bandwidth=5k",
+                       trace + hf + "--set NoSet/Field=1",
+                       trace + hf + "--set TunerSettings/Bandwidth=wide"};
     QTest::newRow("job-plugin") << QStringList{
         search + "--set TunerSettings/CenterFrequency=8.4145M --plugin search --out plugin.xml",
         "job check plugin.xml", search + "--plugin nobody --out plugin.xml",

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "commandline.h"
+
+namespace JedTool {
+
+/// "jedtool rules trace".
+Verb ruleTraceVerb();
+
+} // namespace JedTool

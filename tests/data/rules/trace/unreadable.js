@@ -1,0 +1,3 @@
+function TunerSettings_Bandwidth_changed() {
+    let wide = true;
+}
