@@ -38,8 +38,8 @@ const char* const DETAILS = QT_TRANSLATE_NOOP(
     "wrong. A rule\n"
     "that runs for more than five seconds is stopped. Without --resource the first receiver is taken that "
     "has all the values.\n\n"
-    "Example:  jedtool rules trace installation/Rules/search.js --plugin Search \\\n"
-    "              --set ADemSettings/Demodulation=FM\n"
+    "Example:  jedtool rules trace installation/Rules/search.js --plugin Search --resource HT720/HF-1 \\\n"
+    "              --set ADemSettings/Demodulation=AM\n"
     "Next:     jedtool rules check FILE\n");
 constexpr int INDENT = 2;
 
@@ -62,8 +62,8 @@ struct Request
 struct Step
 {
     Assignment assignment;
-    QString before;
-    QString after; // Before rules had their say.
+    QString before; // Empty if no setting had the field before.
+    QString after;  // Before rules had their say.
     QVector<RuleLog::Run> runs;
 };
 
@@ -269,9 +269,9 @@ QString toText(const Trace& trace, const Request& request)
     QString result = Texts::tr("%1 on %2, plug-in %3, job of type %4\n")
                          .arg(request.file, trace.resource, trace.plugin, trace.jobType);
     for (const Step& step : trace.steps) {
-        result += step.before == step.after
-                      ? Texts::tr("%1: %2, as before\n").arg(step.assignment.path, step.after)
-                      : textOf({step.assignment.path, step.before, step.after}) + QLatin1Char('\n');
+        const bool isChanged = !step.before.isEmpty() && step.before != step.after;
+        result += isChanged ? textOf({step.assignment.path, step.before, step.after}) + QLatin1Char('\n')
+                            : QStringLiteral("%1: %2\n").arg(step.assignment.path, step.after);
         if (step.runs.isEmpty())
             result += QString(INDENT, QLatin1Char(' ')) + Texts::tr("no rule runs\n");
         for (const RuleLog::Run& run : step.runs)

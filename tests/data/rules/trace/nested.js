@@ -1,7 +1,7 @@
 // A rule that sets off others, and one that fails.
 
 function TunerSettings_Bandwidth_changed() {
-    TunerSettings_CenterFrequency.int64Value = 8414500;
+    TunerSettings_CenterFrequency.floatValue = 8414500;
     nowhere.value = 1;
 }
 
