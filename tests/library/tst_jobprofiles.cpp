@@ -69,6 +69,7 @@ private slots:
     void modifyRefuses_data();
     void modifyRefuses();
     void modifyOfAnEmptyTextMakesTheElement();
+    void modifyByWhatAnEntryLacksChangesNothing();
     void signalDescriptionIsAppended();
     void signalDescriptionIntoAnEmptyText();
     void signalDescriptionOfAnUnusableList();
@@ -228,6 +229,16 @@ void TstJobProfiles::modifyOfAnEmptyTextMakesTheElement()
     QString xml;
     QVERIFY(profile("F")->modifySetting(0, settingType(7), xml));
     QVERIFY2(xml.startsWith("<FFM_Settings>"), qPrintable(xml));
+}
+
+void TstJobProfiles::modifyByWhatAnEntryLacksChangesNothing()
+{
+    const std::shared_ptr<IJobProfile> found = profile("F");
+    QString xml = "<Demodulator_Settings><SymbolRate>1200</SymbolRate></Demodulator_Settings>";
+    QVERIFY(found->modifySetting(0, settingType(5), xml));
+    JobXml::Demodulator_Settings settings;
+    QVERIFY(settings.SetXmlString(xml, false));
+    QCOMPARE(settings.GetSymbolRate(), 1200);
 }
 
 void TstJobProfiles::signalDescriptionIsAppended()

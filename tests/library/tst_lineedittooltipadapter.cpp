@@ -55,6 +55,7 @@ private slots:
     void classIsKnownToQt();
     void toolTipByWidth_data();
     void toolTipByWidth();
+    void wholeWidgetCounts();
     void textOfTodayCounts();
     void fontOfTheFieldCounts();
     void emptyToolTipShowsNothing();
@@ -126,6 +127,15 @@ void TstLineEditTooltipAdapter::toolTipByWidth()
     QVERIFY(rest(*m_edit));
     QVERIFY(QToolTip::isVisible());
     QCOMPARE(QToolTip::text(), fits ? m_edit->toolTip() : m_edit->text());
+}
+
+void TstLineEditTooltipAdapter::wholeWidgetCounts()
+{
+    m_edit->resize(textWidth(*m_edit), 30);
+    m_edit->setContentsMargins(20, 0, 20, 0);
+    m_edit->setTextMargins(10, 0, 10, 0);
+    rest(*m_edit);
+    QCOMPARE(QToolTip::text(), QString("frequency"));
 }
 
 void TstLineEditTooltipAdapter::textOfTodayCounts()

@@ -1,5 +1,6 @@
 #include "subjobwidget.h"
 
+#include "filterintegerrangeproxymodel.h"
 #include "selectableresourcemodel.h"
 
 #include <support/popupdriver.h>
@@ -47,6 +48,7 @@ private slots:
     void menuEntryCallsTheModel();
     void menuRunsAtThePoint();
     void unavailableResourcesCanBeHidden();
+    void tableOfHiddenScpsStays();
     void menuWithoutSuchAModel();
     void widgetMayGoWhileTheMenuIsOpen();
     void headerBoxChoosesAScp();
@@ -195,6 +197,20 @@ void TstSubJobWidgetScps::unavailableResourcesCanBeHidden()
     QCOMPARE(rows.join('|'), QString("A 2|C 1"));
     choose(true);
     QCOMPARE(shown->rowCount(), 5);
+}
+
+void TstSubJobWidgetScps::tableOfHiddenScpsStays()
+{
+    SelectableResourceModel scps(resources({"D 0"}), nullptr);
+    m_widget->setSCPModel(&scps);
+    auto* shown = qobject_cast<JEDVEPLUGIN::FilterIntegerRangeProxyModel*>(fields().scps()->model());
+    shown->enableRangeFilter();
+    QCOMPARE(shown->rowCount(), 0);
+    m_widget->setDetector(true, SubJobWidget::DetectorScpList);
+    QCOMPARE(visibleDetectorFields(*m_widget), QString("type scps"));
+    scps.setResources({});
+    m_widget->setDetector(true, SubJobWidget::DetectorScpList);
+    QCOMPARE(visibleDetectorFields(*m_widget), QString("type"));
 }
 
 void TstSubJobWidgetScps::menuWithoutSuchAModel()
