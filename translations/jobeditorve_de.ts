@@ -4497,6 +4497,10 @@ beantwortet: %3
         <source>it is larger than %1 MiB</source>
         <translation>sie ist größer als %1 MiB</translation>
     </message>
+    <message>
+        <source>it is write-protected</source>
+        <translation>sie ist schreibgeschützt</translation>
+    </message>
 </context>
 <context>
     <name>Session::Scenario</name>

@@ -9,8 +9,8 @@ namespace Session {
 constexpr qint64 MAX_FILE_SIZE = 64 * 1024 * 1024;
 
 /// Puts \p content in place of the file \p path, all or nothing: whoever reads the path sees the old content
-/// or the new one, also when the disk is full or the process is killed meanwhile. Every save of the
-/// applications goes through here. A link is followed; something that is no regular file (folder, device) is
+/// or the new one, also when the disk is full or the process is killed meanwhile; what such a process left beside
+/// the file goes with the next save. Every save of the applications goes through here. A link is followed; something that is no regular file (folder, device) is
 /// refused. \param error  receives the reason, for a person to read; may be null \return false, with the old
 /// file as it was, if not everything could be written
 bool saveFile(const QString& path, const QByteArray& content, QString* error);

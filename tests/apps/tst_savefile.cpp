@@ -47,6 +47,10 @@ private slots:
     void aKilledProcessLeavesTheOldFile();
     void aLinkIsFollowed();
     void whatIsNoFileIsRefused();
+    void aWriteProtectedFileIsNamed();
+    void theRightsOfTheFileStay();
+    void whatKilledProcessesLeftGoes();
+    void aLongNameIsSaved();
     void aMissingFolderIsNamed();
     void readingGivesTheWholeFile();
     void readingRefuses_data();
@@ -139,6 +143,56 @@ void TstSaveFile::whatIsNoFileIsRefused()
     QVERIFY(QFile::link("/dev/full", path("device.xml")));
     QVERIFY(!saveFile(path("device.xml"), "x", &error));
     QCOMPARE(error, QString("it is no regular file"));
+}
+
+void TstSaveFile::aWriteProtectedFileIsNamed()
+{
+    constexpr uid_t NOBODY = 65534;
+    QVERIFY(saveFile(path("job.xml"), "good", nullptr));
+    QVERIFY(QFile::setPermissions(path("job.xml"), QFile::ReadOwner | QFile::ReadOther));
+    QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
+    const pid_t child = fork();
+    if (child == 0) {
+        // Nothing is write-protected for the superuser.
+        QString error;
+        const bool isOther = geteuid() != 0 || setuid(NOBODY) == 0;
+        const bool isSaved = saveFile(path("job.xml"), "x", &error);
+        _exit(isOther && !isSaved && error == "it is write-protected" ? 0 : 1);
+    }
+    int status = -1;
+    QCOMPARE(waitpid(child, &status, 0), child);
+    QCOMPARE(status, 0);
+    QCOMPARE(contentOf(path("job.xml")), QByteArray("good"));
+}
+
+void TstSaveFile::theRightsOfTheFileStay()
+{
+    const auto rights = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
+    QVERIFY(saveFile(path("job.xml"), "old", nullptr));
+    QVERIFY(QFile::setPermissions(path("job.xml"), rights));
+    QVERIFY(saveFile(path("job.xml"), "new", nullptr));
+    QCOMPARE(QFile::permissions(path("job.xml")) & ~(QFile::ReadUser | QFile::WriteUser), rights);
+}
+
+void TstSaveFile::whatKilledProcessesLeftGoes()
+{
+    // No process has the number 4194999; the last two are somebody else's.
+    const QString alive = QString(".job.xml.%1.saving").arg(getppid());
+    for (const QString& name : {QString(".job.xml.4194999.saving"), alive, QString(".job.xml.notes.saving"),
+                                QString("job.xml.backup")}) {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QVERIFY(saveFile(path("job.xml"), "new", nullptr));
+    QStringList kept{alive, ".job.xml.notes.saving", "job.xml", "job.xml.backup"};
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden, QDir::Name), kept);
+}
+
+void TstSaveFile::aLongNameIsSaved()
+{
+    const QString name(255, 'n');
+    QVERIFY(saveFile(path(name), "content", nullptr));
+    QCOMPARE(contentOf(path(name)), QByteArray("content"));
 }
 
 void TstSaveFile::aMissingFolderIsNamed()
