@@ -45,7 +45,10 @@ void EditorWindow::buildFileMenu()
             QMessageBox::information(this, tr("Recover jobs"), tr("There is no job to be recovered."));
     });
     menu->addSeparator();
-    m_jobActions << menu->addAction(tr("&Save"), this, &EditorWindow::save, QKeySequence::Save)
+    m_readOnly = menu->addAction(tr("Read &only"), this, &EditorWindow::setReadOnly);
+    m_readOnly->setCheckable(true);
+    m_readOnly->setToolTip(tr("The job can be looked at but not changed"));
+    m_jobActions << m_readOnly << menu->addAction(tr("&Save"), this, &EditorWindow::save, QKeySequence::Save)
                  << menu->addAction(tr("Save &as..."), this, &EditorWindow::saveAs, QKeySequence::SaveAs)
                  << menu->addAction(tr("Re&vert"), this, &EditorWindow::revert);
     menu->addSeparator();
@@ -55,17 +58,17 @@ void EditorWindow::buildFileMenu()
 void EditorWindow::buildEditMenu()
 {
     QMenu* const menu = menuBar()->addMenu(tr("&Edit"));
-    QAction* const undo = m_session->undoStack()->createUndoAction(this, tr("&Undo"));
-    undo->setShortcut(QKeySequence::Undo);
-    QAction* const redo = m_session->undoStack()->createRedoAction(this, tr("&Redo"));
-    redo->setShortcut(QKeySequence::Redo);
-    menu->addActions({undo, redo});
+    m_undo = m_session->undoStack()->createUndoAction(this, tr("&Undo"));
+    m_undo->setShortcut(QKeySequence::Undo);
+    m_redo = m_session->undoStack()->createRedoAction(this, tr("&Redo"));
+    m_redo->setShortcut(QKeySequence::Redo);
+    menu->addActions({m_undo, m_redo});
     menu->addSeparator();
 
     m_settingMenu = menuBar()->addMenu(tr("&Setting"));
     QMenu* const add = m_settingMenu->addMenu(tr("&Add"));
     connect(add, &QMenu::aboutToShow, this, [this, add] { fillAddMenu(add); });
-    m_jobActions << add->menuAction();
+    m_changeActions << add->menuAction();
     m_settingActions << m_settingMenu->addAction(tr("&Duplicate"), this, &EditorWindow::duplicate,
                                                  QKeySequence(Qt::CTRL + Qt::Key_D))
                      << m_settingMenu->addAction(tr("De&lete"), this, &EditorWindow::removeCurrent,
@@ -81,11 +84,11 @@ void EditorWindow::buildEditMenu()
 
     // With a modifier of their own: the plain keys belong to the fields of the editors.
     m_settingActions << menu->addAction(tr("Cu&t setting"), this, &EditorWindow::cut,
-                                        QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_X))
-                     << menu->addAction(tr("&Copy setting"), this, &EditorWindow::copy,
-                                        QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
-    m_jobActions << menu->addAction(tr("&Paste setting"), this, &EditorWindow::paste,
-                                    QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V));
+                                        QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_X));
+    m_copy = menu->addAction(tr("&Copy setting"), this, &EditorWindow::copy,
+                             QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
+    m_changeActions << menu->addAction(tr("&Paste setting"), this, &EditorWindow::paste,
+                                       QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V));
     menu->addSeparator();
     m_jobActions << menu->addAction(tr("&Filter settings"), m_tree, &TreePane::focusFilter,
                                     QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_F));

@@ -264,8 +264,21 @@ void EditorWindow::updateActions()
     ISubSetting* const setting = m_tree->currentSetting();
     for (QAction* action : qAsConst(m_jobActions))
         action->setEnabled(m_hasJob);
+    const bool isChangeable = m_hasJob && !m_session->isReadOnly();
+    for (QAction* action : qAsConst(m_changeActions))
+        action->setEnabled(isChangeable);
+    m_copy->setEnabled(m_hasJob && setting);
+    m_readOnly->setChecked(m_session->isReadOnly());
+    m_undo->setEnabled(isChangeable && m_session->undoStack()->canUndo());
+    m_redo->setEnabled(isChangeable && m_session->undoStack()->canRedo());
     for (QAction* action : qAsConst(m_settingActions))
         action->setEnabled(m_hasJob && setting && !setting->isReadOnly());
+}
+
+void EditorWindow::setReadOnly(bool readOnly)
+{
+    m_session->setReadOnly(readOnly);
+    updateTitle();
 }
 
 void EditorWindow::updateTitle()
@@ -274,6 +287,8 @@ void EditorWindow::updateTitle()
     const QString path = m_session->document().path();
     setWindowModified(m_hasJob && m_session->isModified());
     setWindowFilePath(m_hasJob ? path : QString());
-    setWindowTitle(m_hasJob ? tr("%1[*] - Job editor").arg(path.isEmpty() ? name : QFileInfo(path).fileName())
-                            : tr("Job editor"));
+    const QString shown = path.isEmpty() ? name : QFileInfo(path).fileName();
+    setWindowTitle(!m_hasJob                 ? tr("Job editor")
+                   : m_session->isReadOnly() ? tr("%1[*] (read only) - Job editor").arg(shown)
+                                             : tr("%1[*] - Job editor").arg(shown));
 }

@@ -81,6 +81,7 @@ private:
     void duplicate();
     void removeCurrent();
     void moveCurrent(int step);
+    void setReadOnly(bool readOnly);
     void showProblem(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet, const QString& field);
 
     void showStart();
@@ -99,7 +100,12 @@ private:
     EditorPane* m_editor;
     ProblemsPane* m_problems = nullptr;
     QMenu* m_settingMenu = nullptr;
+    QAction* m_readOnly = nullptr;
+    QAction* m_copy = nullptr;
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
     QList<QAction*> m_jobActions;     // Need a job.
-    QList<QAction*> m_settingActions; // Need a selected setting.
+    QList<QAction*> m_changeActions;  // Need a job that can be changed.
+    QList<QAction*> m_settingActions; // Need a selected setting that can be changed.
     bool m_hasJob = false;
 };

@@ -61,8 +61,7 @@ void JobSession::begin(JEDVE::enJOB_TYPE type, const QString& name)
 {
     drop();
     m_document.begin(type, name);
-    for (Factory* factory : qAsConst(m_factories))
-        factory->slot_setCurrentJobType(type);
+    prepareFactories();
     emit jobReplaced();
 }
 
@@ -119,6 +118,15 @@ QByteArray JobSession::draft()
 bool JobSession::isModified() const
 {
     return !m_undoStack.isClean();
+}
+
+void JobSession::setReadOnly(bool readOnly)
+{
+    flushEdits();
+    m_isReadOnly = readOnly;
+    for (Factory* factory : qAsConst(m_factories))
+        factory->setReadOnly(readOnly);
+    emit structureChanged();
 }
 
 JEDVE::enJOB_TYPE JobSession::jobType() const
@@ -276,7 +284,7 @@ bool JobSession::rename(Setting* setting, const QString& name)
 bool JobSession::move(Setting* parent, int from, int to)
 {
     const int count = parent ? parent->childCount() : topLevelCount();
-    if (from < 0 || from >= count || to < 0 || to > count || to == from || to == from + 1)
+    if (m_isReadOnly || from < 0 || from >= count || to < 0 || to > count || to == from || to == from + 1)
         return false;
     if (parent && !parent->canMoveChild(parent->child(from)))
         return false;
@@ -341,9 +349,7 @@ void JobSession::takeOver(const JobDocument& document, Findings* findings)
     drop();
     const QScopedValueRollback<bool> working(m_isWorking, true);
     m_document = document;
-    const JEDVE::enJOB_TYPE type = jobType();
-    for (Factory* factory : qAsConst(m_factories))
-        factory->slot_setCurrentJobType(type);
+    prepareFactories();
     int number = 0;
     for (const JobXml::Subjob& subjob : m_document.job().GetSubjob()) {
         ++number;
@@ -353,6 +359,15 @@ void JobSession::takeOver(const JobDocument& document, Findings* findings)
     }
     for (Factory* factory : qAsConst(m_factories))
         factory->setModified(false);
+}
+
+void JobSession::prepareFactories()
+{
+    m_isReadOnly = false;
+    for (Factory* factory : qAsConst(m_factories)) {
+        factory->setReadOnly(false);
+        factory->slot_setCurrentJobType(jobType());
+    }
 }
 
 QVector<JobXml::Subjob> JobSession::writtenSubjobs(bool* isComplete, Findings* findings)

@@ -58,7 +58,7 @@ public:
     explicit JobSession(const QList<Factory*>& factories, QObject* parent = nullptr);
     ~JobSession() override;
 
-    /// Drops the present job and begins an empty one.
+    /// Drops the present job and begins an empty one, which can be edited.
     void begin(JEDVE::enJOB_TYPE type, const QString& name);
     /// Drops the present job and takes a job file over.
     /// \return false, with the job as it was, if the file cannot be read; the reason is a finding
@@ -78,6 +78,9 @@ public:
     QByteArray draft();
 
     bool isModified() const;
+    /// A job that is only looked at: nothing of it can be changed, and there is nothing to undo meanwhile.
+    void setReadOnly(bool readOnly);
+    bool isReadOnly() const { return m_isReadOnly; }
     JobDocument& document() { return m_document; }
     JEDVE::enJOB_TYPE jobType() const;
     const QList<Factory*>& factories() const { return m_factories; }
@@ -135,6 +138,7 @@ private:
     using Texts = QHash<QString, QString>;
 
     void drop();
+    void prepareFactories();
     void takeOver(const JobDocument& document, Findings* findings);
     QVector<JobXml::Subjob> writtenSubjobs(bool* isComplete, Findings* findings);
     TopLevel newTopLevel(Factory* factory, Setting* setting, const JobXml::Subjob& subjob);
@@ -162,6 +166,7 @@ private:
     QUndoStack m_undoStack;
     int m_lastNumber = 0;
     int m_editStep = 0;
+    bool m_isReadOnly = false;
     bool m_isWorking = false; // A step of ours runs: what plug-ins tell belongs to it.
     bool m_isFlushPending = false;
 };

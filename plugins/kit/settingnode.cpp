@@ -77,8 +77,7 @@ QWidget* SettingNode::getWidget()
 {
     if (!m_widget && m_makesWidget) {
         m_widget = makeWidget();
-        if (m_widget)
-            m_widget->setEnabled(!isReadOnly());
+        lockEditors();
     }
     return m_widget;
 }
@@ -131,6 +130,7 @@ void SettingNode::setReadOnly(bool readOnly, bool subtree)
 {
     const QScopedValueRollback<bool> existing(m_makesWidget, false);
     AbstractSubSetting::setReadOnly(readOnly, subtree);
+    lockEditors();
 }
 
 QString SettingNode::getToolTip() const
@@ -180,6 +180,19 @@ ValueBase* SettingNode::value(const QString& set, const QString& field) const
 {
     const HeldSet* const held = heldSet(set);
     return held && held->values() ? held->values()->GetChild(field) : nullptr;
+}
+
+// The pages rather than all of the widget: what cannot be edited can still be leafed through and scrolled.
+void SettingNode::lockEditors()
+{
+    auto* const tabs = qobject_cast<QTabWidget*>(m_widget);
+    if (!tabs)
+        return;
+    tabs->setEnabled(true);
+    for (int i = 0; i < tabs->count(); ++i) {
+        auto* const area = qobject_cast<QScrollArea*>(tabs->widget(i));
+        (area ? area->widget() : tabs->widget(i))->setEnabled(!isReadOnly());
+    }
 }
 
 void SettingNode::dismantle()

@@ -70,6 +70,7 @@ protected:
     void dismantle();
     /// The caller's; null if there is nothing to edit.
     virtual QWidget* makeWidget();
+    void lockEditors();
     /// Adds a tab for each parameter set.
     void addEditors(QTabWidget* tabs) const;
     void tellChange();

@@ -10,7 +10,9 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScrollArea>
 #include <QSettings>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QTreeView>
@@ -59,6 +61,7 @@ private slots:
     void settingIsDeletedAndUndone();
     void settingIsCopiedAndPasted();
     void settingIsMovedByKeyboard();
+    void readOnlyJobIsShownOnly();
     void titleShowsChanges();
     void jobIsSaved();
     void closingAsks_data();
@@ -221,6 +224,32 @@ void TstEditorWindow::settingIsMovedByKeyboard()
     QCOMPARE(m_session->topLevelIndex(setting), 1);
     action("Move up")->trigger();
     QCOMPARE(m_session->topLevelIndex(setting), 0);
+}
+
+void TstEditorWindow::readOnlyJobIsShownOnly()
+{
+    QVERIFY(open("search"));
+    action("Duplicate")->trigger();
+    action("Read only")->trigger();
+    QVERIFY(m_window->windowTitle().contains("(read only)"));
+    for (const char* change : {"Delete", "Duplicate", "Paste setting", "Add"})
+        QVERIFY2(!action(change)->isEnabled(), change);
+    QVERIFY(!action("Undo Duplicate " + m_session->settingAt({0})->getDisplayName())->isEnabled());
+    QVERIFY(action("Copy setting")->isEnabled());
+    QVERIFY(action("Save as...")->isEnabled());
+
+    // Its pages can be leafed through and scrolled, their fields cannot be edited.
+    auto* const tabs = qobject_cast<QTabWidget*>(m_session->settingAt({0, 0})->getWidget());
+    QVERIFY(tabs);
+    QVERIFY(tabs->isEnabled());
+    auto* const area = qobject_cast<QScrollArea*>(tabs->widget(0));
+    QVERIFY(area);
+    QVERIFY(area->isEnabled());
+    QVERIFY(!area->widget()->isEnabled());
+
+    action("Read only")->trigger();
+    QVERIFY(area->widget()->isEnabled());
+    QVERIFY(action("Delete")->isEnabled());
 }
 
 void TstEditorWindow::titleShowsChanges()

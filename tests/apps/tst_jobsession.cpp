@@ -76,6 +76,7 @@ private slots:
     void modelShowsTheJob();
     void modelFollowsEveryChange();
     void modelDropsWithinAParent();
+    void readOnlyJobCannotBeChanged();
     void manyEditsAreUndone();
 
     void scenarioIsRun();
@@ -419,6 +420,29 @@ void TstJobSession::modelDropsWithinAParent()
     QMimeData foreign;
     foreign.setData("application/x-jobeditor-setting-place", "17/0");
     QVERIFY(!model.canDropMimeData(&foreign, Qt::MoveAction, 0, 0, QModelIndex()));
+}
+
+void TstJobSession::readOnlyJobCannotBeChanged()
+{
+    open("search");
+    m_session->duplicate(m_session->settingAt({0}));
+    const QByteArray before = text();
+    m_session->setReadOnly(true);
+    JobSession::Setting* const setting = m_session->settingAt({0});
+    QVERIFY(setting->isReadOnly());
+    QVERIFY(!m_session->remove(setting));
+    QVERIFY(!m_session->duplicate(setting));
+    QVERIFY(!m_session->rename(setting, "Renamed"));
+    QVERIFY(!m_session->move(nullptr, 0, 2));
+    QVERIFY(!m_session->paste(m_session->textOf(setting), nullptr));
+    QVERIFY(!m_session->setParameterSet(setting, "SubJob", setting->parameterSetText("SubJob")));
+    QVERIFY(m_session->addableTypes(m_session->factoryOf(setting), nullptr).isEmpty());
+    QCOMPARE(text(), before);
+    m_session->setReadOnly(false);
+    QVERIFY(m_session->remove(setting));
+    m_session->setReadOnly(true);
+    m_session->begin(JEDVE::JOB_TYPE_SEARCH, "Another one");
+    QVERIFY(!m_session->isReadOnly());
 }
 
 void TstJobSession::manyEditsAreUndone()
