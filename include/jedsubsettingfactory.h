@@ -87,7 +87,7 @@ public:
     virtual bool claimsSubjob(const JobXml::Subjob& subjob) const = 0;
     /// Makes a top-level setting out of a sub-job that this plug-in claims.
     /// \param problems  what could not be taken over is appended; may be null
-    /// \return null, with nothing changed, if no setting can be made of it
+    /// \return null, with nothing changed, if no setting can be made of it; the reason is one of the problems
     virtual ISubSetting* readSubjob(const JobXml::Subjob& subjob, QList<Problem>* problems) = 0;
     /// Writes a top-level setting with its subtree into a sub-job of a job file; what the sub-job holds beyond
     /// that stays in it.

@@ -309,6 +309,18 @@ Anlage: %3</translation>
         <source>The job could not be recovered.</source>
         <translation>Der Auftrag konnte nicht wiederhergestellt werden.</translation>
     </message>
+    <message>
+        <source>Read &amp;only</source>
+        <translation>Nur &amp;lesen</translation>
+    </message>
+    <message>
+        <source>The job can be looked at but not changed</source>
+        <translation>Der Auftrag kann angesehen, aber nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>%1[*] (read only) - Job editor</source>
+        <translation>%1[*] (nur lesen) - Auftragseditor</translation>
+    </message>
 </context>
 <context>
     <name>FreqStoreXml::FileHandling</name>
@@ -3842,6 +3854,17 @@ Anlage: %3</translation>
     <message>
         <source>%1/%2 is lost: its field does not take &quot;%3&quot;</source>
         <translation>%1/%2 geht verloren: sein Feld nimmt „%3“ nicht an</translation>
+    </message>
+</context>
+<context>
+    <name>PluginKit::KitFactory</name>
+    <message>
+        <source>uses receivers of type %1 only</source>
+        <translation>verwendet nur Empfänger vom Typ %1</translation>
+    </message>
+    <message>
+        <source>is not for jobs of this type</source>
+        <translation>ist nicht für Aufträge dieses Typs</translation>
     </message>
 </context>
 <context>

@@ -86,19 +86,29 @@ QStringList jobTypeNames(const QList<JEDVE::enJOB_TYPE>& types)
     return names;
 }
 
-// The jobs in which the plug-in takes a sub-job on a receiver.
-QList<JEDVE::enJOB_TYPE> jobsWith(const ResourceDescription& resource, JEDSubSettingFactory* factory)
+struct Use
+{
+    QStringList jobs; // In which the plug-in takes a sub-job on a receiver.
+    QString reason;   // Why there are none.
+};
+
+Use useOf(const ResourceDescription& resource, JEDSubSettingFactory* factory)
 {
     JobXml::Subjob subjob;
     subjob.GetResourceDescription().SetType(JobXml::ResourceDescription::NameToType(resource.getType()));
     subjob.GetResourceDescription().SetBaseResource(resource.getBaseResource());
-    QList<JEDVE::enJOB_TYPE> result;
+    Use use;
     for (const JEDVE::enJOB_TYPE type : factory->supportedJobTypes()) {
         factory->slot_setCurrentJobType(type);
-        if (factory->claimsSubjob(subjob))
-            result.append(type);
+        if (factory->claimsSubjob(subjob)) {
+            use.jobs.append(JEDCommonHelper::JobTypeToString(type));
+            continue;
+        }
+        QList<JEDVEPLUGIN::Problem> problems;
+        factory->readSubjob(subjob, &problems);
+        use.reason = problems.value(0).text;
     }
-    return result;
+    return use;
 }
 
 QString countText(int count)
@@ -120,11 +130,15 @@ QJsonObject inspectionToJson(JEDSubSettingFactory* factory)
         types.append(object);
     }
     QJsonArray receivers;
-    for (const auto& resource : ResourceDescription::readAllResourceFiles())
-        receivers.append(QJsonObject{{QStringLiteral("type"), resource->getType()},
-                                     {QStringLiteral("baseResource"), resource->getBaseResource()},
-                                     {QStringLiteral("jobs"), QJsonArray::fromStringList(jobTypeNames(
-                                                                  jobsWith(*resource, factory)))}});
+    for (const auto& resource : ResourceDescription::readAllResourceFiles()) {
+        const Use use = useOf(*resource, factory);
+        QJsonObject object{{QStringLiteral("type"), resource->getType()},
+                           {QStringLiteral("baseResource"), resource->getBaseResource()},
+                           {QStringLiteral("jobs"), QJsonArray::fromStringList(use.jobs)}};
+        if (use.jobs.isEmpty())
+            object.insert(QStringLiteral("reason"), use.reason);
+        receivers.append(object);
+    }
     return {
         {QStringLiteral("name"), factory->getName()},
         {QStringLiteral("description"), factory->description()},
@@ -143,9 +157,11 @@ QString inspectionToText(JEDSubSettingFactory* factory)
     }
     TextTable receivers(2);
     for (const auto& resource : ResourceDescription::readAllResourceFiles()) {
-        const QStringList jobs = jobTypeNames(jobsWith(*resource, factory));
+        const Use use = useOf(*resource, factory);
+        const QString reason =
+            use.reason.isEmpty() ? Texts::tr("not taken") : Texts::tr("not taken: %1").arg(use.reason);
         receivers.append({resource->getType() + QLatin1Char('/') + resource->getBaseResource(),
-                          jobs.isEmpty() ? Texts::tr("not taken") : jobs.join(QLatin1String(", "))});
+                          use.jobs.isEmpty() ? reason : use.jobs.join(QLatin1String(", "))});
     }
     return Texts::tr("%1: %2\nJobs: %3\nSettings:\n%4Receivers:\n%5")
         .arg(factory->getName(), factory->description(),

@@ -4,6 +4,7 @@
 #include <kit/subjobheader.h>
 
 #include <algorithm>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QScopedValueRollback>
@@ -16,6 +17,11 @@ using JEDVEPLUGIN::Problem;
 using JEDVEPLUGIN::ResourceUse;
 
 namespace {
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PluginKit::KitFactory)
+};
+
 // Nodes below nodes, in a job file.
 const int MAX_LEVELS = 16;
 
@@ -147,10 +153,21 @@ bool KitFactory::claimsSubjob(const JobXml::Subjob& subjob) const
            (jobType == JEDVE::JOB_TYPE_UNKNOWN || jobTypes.contains(jobType));
 }
 
+QString KitFactory::reasonAgainst(const JobXml::Subjob& subjob) const
+{
+    if (!m_declaration.resourceTypes.contains(typeOf(subjob)))
+        return Texts::tr("uses receivers of type %1 only")
+            .arg(m_declaration.resourceTypes.join(QLatin1String(", ")));
+    return Texts::tr("is not for jobs of this type");
+}
+
 ISubSetting* KitFactory::readSubjob(const JobXml::Subjob& subjob, QList<Problem>* problems)
 {
-    if (!claimsSubjob(subjob))
+    if (!claimsSubjob(subjob)) {
+        if (problems)
+            problems->append({Problem::SEVERITY_ERROR, SUB_JOB, QString(), reasonAgainst(subjob)});
         return nullptr;
+    }
     const QScopedValueRollback<bool> making(m_isMaking, true);
     QHash<QString, QString> sets;
     for (const CarriedSet& carried : carriedSets(subjob))

@@ -103,6 +103,7 @@ private:
     bool takeSets(SettingNode* node, QHash<QString, QString>* sets, int level);
     void addInitialNodes(SubjobNode* subjob);
     JEDVEPLUGIN::ISubSetting* hangUp(std::unique_ptr<SettingNode> node, SettingNode* parent);
+    QString reasonAgainst(const JobXml::Subjob& subjob) const;
     QString freeName(const QString& wanted) const;
 
     const PluginDeclaration m_declaration;

@@ -27,6 +27,8 @@ class TstKitFactory : public QObject
 private slots:
     void initTestCase() { JedTest::useStation(); }
     void theDeclarationIsWhatTheFactoryTells();
+    void strangeSubjobIsRefusedWithTheReason_data();
+    void strangeSubjobIsRefusedWithTheReason();
     void settingsLieBelowSettings();
     void typesMayBeTheirOwnChildren();
     void severalOfOneType();
@@ -117,6 +119,31 @@ void TstKitFactory::theDeclarationIsWhatTheFactoryTells()
     QVERIFY(factory->receiver("HF-1", "HT720"));
     QVERIFY(!factory->receiver("HF-1", "TRV9KScanSettings"));
     QVERIFY(!factory->getSettingIcon("Tuner"));
+}
+
+void TstKitFactory::strangeSubjobIsRefusedWithTheReason_data()
+{
+    QTest::addColumn<QString>("receiver");
+    QTest::addColumn<int>("jobType");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("receiver") << "DirectionFinder" << int(JEDVE::JOB_TYPE_SEARCH)
+                              << "uses receivers of type HT720 only";
+    QTest::newRow("job") << "HT720" << int(JEDVE::JOB_TYPE_PRODUCTION) << "is not for jobs of this type";
+}
+
+void TstKitFactory::strangeSubjobIsRefusedWithTheReason()
+{
+    QFETCH(QString, receiver);
+    QFETCH(int, jobType);
+    QFETCH(QString, reason);
+    const auto factory = factoryOf({typeOf("SubJob", {})});
+    factory->slot_setCurrentJobType(static_cast<JEDVE::enJOB_TYPE>(jobType));
+    QList<Problem> problems;
+    QVERIFY(!factory->readSubjob(subjobOn(receiver, "HF-1"), &problems));
+    QVERIFY(!factory->readSubjob(subjobOn(receiver, "HF-1"), nullptr));
+    QCOMPARE(problems.size(), 1);
+    QCOMPARE(problems[0].text, reason);
+    QVERIFY(factory->topLevelSettings().isEmpty());
 }
 
 void TstKitFactory::settingsLieBelowSettings()
