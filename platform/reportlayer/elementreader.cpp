@@ -1,10 +1,10 @@
 #include "elementaccess_p.h"
 #include "elementreader_p.h"
 #include "lexical_p.h"
-#include "textbounds_p.h"
 #include <algorithm>
 #include <QCoreApplication>
 #include <QXmlStreamReader>
+#include <reportlayer/textbounds.h>
 
 namespace REPORTGENERATOR {
 

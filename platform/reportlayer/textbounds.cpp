@@ -1,6 +1,6 @@
-#include "textbounds_p.h"
 #include <algorithm>
 #include <QCoreApplication>
+#include <reportlayer/textbounds.h>
 
 namespace REPORTGENERATOR {
 

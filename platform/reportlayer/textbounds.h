@@ -17,9 +17,10 @@ struct Prolog
 };
 
 /// Looks at a text before the XML reader sees it: length, NUL, DOCTYPE and the number of attributes, for
-/// which the reader would take quadratic time. Touches a small part of an ordinary text only. \return false
-/// with \p failure filled in for a text that must not be read
-bool keepsBounds(const QString& text, Prolog* prolog, Problem* failure);
+/// which the reader would take quadratic time. Touches a small part of an ordinary text only. For everything that reads
+/// XML by itself.
+/// \return false, with \p failure filled in, for a text that must not be read
+REPORTLAYER_EXPORT bool keepsBounds(const QString& text, Prolog* prolog, Problem* failure);
 
 /// A problem at a position of the text.
 Problem problemAt(const QString& text, int position, const QString& reason);
