@@ -3780,6 +3780,10 @@ Anlage: %3</translation>
         <source>Version of the file&apos;s schema.</source>
         <translation>Version des Schemas der Datei.</translation>
     </message>
+    <message>
+        <source>Analogue demodulation of the entry.</source>
+        <translation>Analoge Demodulation des Eintrags.</translation>
+    </message>
 </context>
 <context>
     <name>JobXml::Suggestion</name>
@@ -4163,6 +4167,25 @@ Anlage: %3</translation>
     </message>
 </context>
 <context>
+    <name>Session::CsvReader</name>
+    <message>
+        <source>it has more than %1 fields</source>
+        <translation>sie hat mehr als %1 Felder</translation>
+    </message>
+    <message>
+        <source>a quote is opened and not closed</source>
+        <translation>ein Anführungszeichen wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>something stands behind a closing quote</source>
+        <translation>hinter einem schließenden Anführungszeichen steht etwas</translation>
+    </message>
+    <message>
+        <source>a quote stands in a field without quotes</source>
+        <translation>in einem Feld ohne Anführungszeichen steht ein Anführungszeichen</translation>
+    </message>
+</context>
+<context>
     <name>Session::Finding</name>
     <message>
         <source>note</source>
@@ -4175,6 +4198,176 @@ Anlage: %3</translation>
     <message>
         <source>error</source>
         <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>Session::FrequencyImport</name>
+    <message>
+        <source>number of fields: %1, expected: %2</source>
+        <translation>Anzahl der Felder: %1, erwartet: %2</translation>
+    </message>
+    <message>
+        <source>its first line does not name the columns Frequency and Mode</source>
+        <translation>die erste Zeile nennt die Spalten Frequency und Mode nicht</translation>
+    </message>
+    <message>
+        <source>CHIRP memories (CSV)</source>
+        <translation>CHIRP-Speicherplätze (CSV)</translation>
+    </message>
+    <message>
+        <source>the name has more than %1 characters</source>
+        <translation>der Name hat mehr als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>the name holds something that is no UTF-8</source>
+        <translation>der Name enthält etwas, das kein UTF-8 ist</translation>
+    </message>
+    <message>
+        <source>the name holds a control character</source>
+        <translation>der Name enthält ein Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>%1 is no number</source>
+        <translation>%1 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number of hertz</source>
+        <translation>%1 ist keine ganze Zahl von Hertz</translation>
+    </message>
+    <message>
+        <source>%1 is out of range</source>
+        <translation>%1 ist zu groß</translation>
+    </message>
+    <message>
+        <source>%1 is outside of 1 Hz to %2</source>
+        <translation>%1 liegt außerhalb von 1 Hz bis %2</translation>
+    </message>
+    <message>
+        <source>refused: %1</source>
+        <translation>abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>%1 (usual)</source>
+        <translation>%1 (üblich)</translation>
+    </message>
+    <message>
+        <source>named %1</source>
+        <translation>Name: %1</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;</source>
+        <translation>ein Format „%1“ gibt es nicht</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>sie ist größer als %1 MiB</translation>
+    </message>
+    <message>
+        <source>it is no text in UTF-8</source>
+        <translation>sie ist kein Text in UTF-8</translation>
+    </message>
+    <message>
+        <source>it has no entries</source>
+        <translation>sie hat keine Einträge</translation>
+    </message>
+    <message>
+        <source>it has more than %1 entries</source>
+        <translation>sie hat mehr als %1 Einträge</translation>
+    </message>
+    <message>
+        <source>reading was stopped</source>
+        <translation>das Lesen wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>it has no frequency</source>
+        <translation>die Frequenz fehlt</translation>
+    </message>
+    <message>
+        <source>it has no mode</source>
+        <translation>die Betriebsart fehlt</translation>
+    </message>
+    <message>
+        <source>the mode %1 has no counterpart</source>
+        <translation>die Betriebsart %1 hat keine Entsprechung</translation>
+    </message>
+    <message>
+        <source>bandwidth: %1</source>
+        <translation>Bandbreite: %1</translation>
+    </message>
+    <message>
+        <source>it stands before the column names</source>
+        <translation>die Zeile steht vor den Spaltennamen</translation>
+    </message>
+    <message>
+        <source>list of tags</source>
+        <translation>Liste der Schlagwörter</translation>
+    </message>
+    <message>
+        <source>gqrx bookmarks (bookmarks.csv)</source>
+        <translation>gqrx-Lesezeichen (bookmarks.csv)</translation>
+    </message>
+    <message>
+        <source>it is no object with frequency and mode</source>
+        <translation>kein Objekt mit frequency und mode</translation>
+    </message>
+    <message>
+        <source>it is damaged: %1</source>
+        <translation>sie ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>it has no object &quot;bookmarks&quot;</source>
+        <translation>ein Objekt „bookmarks“ fehlt</translation>
+    </message>
+    <message>
+        <source>another bookmark of this name follows</source>
+        <translation>ein weiteres Lesezeichen dieses Namens folgt</translation>
+    </message>
+    <message>
+        <source>SDR++ bookmarks (JSON)</source>
+        <translation>SDR++-Lesezeichen (JSON)</translation>
+    </message>
+    <message>
+        <source>the element &quot;%1&quot; is no MemoryEntry</source>
+        <translation>das Element „%1“ ist kein MemoryEntry</translation>
+    </message>
+    <message>
+        <source>elements are nested more than %1 levels</source>
+        <translation>Elemente sind mehr als %1-fach geschachtelt</translation>
+    </message>
+    <message>
+        <source>there are elements within &quot;%1&quot;</source>
+        <translation>innerhalb von „%1“ stehen Elemente</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is given twice</source>
+        <translation>„%1“ kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>it begins with &quot;%1&quot;, not with &quot;%2&quot;</source>
+        <translation>sie beginnt mit „%1“, nicht mit „%2“</translation>
+    </message>
+    <message>
+        <source>SDR# frequencies (frequencies.xml)</source>
+        <translation>SDR#-Frequenzen (frequencies.xml)</translation>
+    </message>
+</context>
+<context>
+    <name>Session::FrequencyListReport</name>
+    <message>
+        <source>short-time signals</source>
+        <translation>Kurzzeitsignale</translation>
+    </message>
+    <message>
+        <source>Lists of other programs are read by: jedtool freq import %1 --as FORMAT --out LIST</source>
+        <translation>Listen anderer Programme liest: jedtool freq import %1 --as FORMAT --out LISTE</translation>
+    </message>
+    <message>
+        <source>no plug-in can use the list</source>
+        <translation>kein Plug-in kann die Liste verwenden</translation>
+    </message>
+    <message>
+        <source>It must have entries, and either all of them tuner settings or all of them short-time settings.</source>
+        <translation>Sie muss Einträge haben, und entweder alle mit Tuner-Einstellungen oder alle mit Kurzzeiteinstellungen.</translation>
     </message>
 </context>
 <context>

@@ -37,7 +37,7 @@ const char* const TRACES = QT_TRANSLATE_NOOP(
 
 const QVector<Noun>& nouns()
 {
-    static const QVector<Noun> all{resourcesNoun(), jobNoun(), pluginNoun(), rulesNoun()};
+    static const QVector<Noun> all{resourcesNoun(), jobNoun(), pluginNoun(), rulesNoun(), frequenciesNoun()};
     return all;
 }
 
@@ -96,8 +96,10 @@ QString optionsHelp(const Table& options)
 
 QString programHelp()
 {
-    return Texts::tr("Usage: jedtool NOUN VERB [ARGUMENT...] [OPTION...]\n\n"
-                     "Looks at the receivers of an installation; composes, shows and checks jobs.\n\n") +
+    return Texts::tr(
+               "Usage: jedtool NOUN VERB [ARGUMENT...] [OPTION...]\n\n"
+               "Looks at the receivers of an installation; composes, shows and checks jobs; imports lists of "
+               "frequencies.\n\n") +
            Texts::tr("Nouns:\n") + summaries(nouns()) + Texts::tr("\nOptions of every verb:\n") +
            optionsHelp(COMMON_OPTIONS) + QLatin1Char('\n') + Texts::tr(EXAMPLES) + QLatin1Char('\n') +
            Texts::tr(EXIT_CODES) + Texts::tr(TRACES);

@@ -71,6 +71,7 @@ Noun resourcesNoun();
 Noun jobNoun();
 Noun pluginNoun();
 Noun rulesNoun();
+Noun frequenciesNoun();
 
 /// Runs what the arguments (without the program's name) ask for.
 ExitCode runCommandLine(const QStringList& arguments);

@@ -62,6 +62,7 @@ void TstJedtool::init()
         QVERIFY(QFile::copy(data + "tuner/" + name, m_folder->filePath("outdated/TemplateFolder/" + name)));
     QVERIFY(copyFiles(data + "jobs", m_folder->filePath("jobs")));
     QVERIFY(copyFiles(data + "rules/trace", m_folder->filePath("rules")));
+    QVERIFY(copyFiles(data + "lists", m_folder->filePath("lists")));
 }
 
 TstJedtool::Result TstJedtool::run(const QString& command, const QStringList& environment)
@@ -121,7 +122,11 @@ void TstJedtool::output_data()
                                          "job check --help",
                                          "rules --help",
                                          "rules check --help",
-                                         "rules findings --help"};
+                                         "rules findings --help",
+                                         "freq --help",
+                                         "freq import --help",
+                                         "freq show --help",
+                                         "freq check --help"};
     QTest::newRow("usage") << QStringList{"",
                                           "resources",
                                           "resorces list",
@@ -217,6 +222,35 @@ void TstJedtool::output_data()
         "job new --scenario jobs/mistyped.scenario",
         "job new --scenario jobs/missed.scenario",
         "job new --scenario none.scenario"};
+    QTest::newRow("freq-import") << QStringList{
+        "freq import lists/gqrx.csv --as gqrx --dry-run",
+        "freq show list.xml",
+        "freq import lists/gqrx.csv --as gqrx --out list.xml",
+        "freq check list.xml",
+        "freq show list.xml",
+        "freq import lists/sdrsharp.xml --as sdrsharp --out list.xml",
+        "freq check list.xml --format json",
+        "freq import lists/sdrpp.json --as sdrpp --out list.xml",
+        "freq check list.xml",
+        "freq import lists/chirp.csv --as chirp --out list.xml --format json",
+        "freq check list.xml",
+        "freq show list.xml --format json"};
+    QTest::newRow("freq-import-refused") << QStringList{
+        "freq import lists/gqrx.csv",
+        "freq import lists/gqrx.csv --as gqrz --dry-run",
+        "freq import lists/gqrx.csv --as gqrx",
+        "freq import lists/gqrx.csv --as gqrx --out nowhere/list.xml",
+        "freq import lists/none.csv --as gqrx --dry-run",
+        "freq import lists --as gqrx --dry-run",
+        "freq import lists/chirp.csv --as sdrpp --dry-run",
+        "freq import lists/gqrx-damaged-bytes.csv --as gqrx --out list.xml",
+        "freq import lists/sdrsharp-damaged-cut-off.xml --as sdrsharp --out list.xml --format json",
+        "freq check list.xml",
+        "freq check lists/gqrx.csv",
+        "freq check lists/store-damaged.xml",
+        "freq check lists/store-mixed.xml --format json",
+        "freq show lists/store-mixed.xml",
+        "freq show jobs/search.xml"};
     QTest::newRow("job-check-faults") << QStringList{"job check jobs/unknown-receiver.xml",
                                                      "job check jobs/outside-the-schema.xml",
                                                      "job check jobs/cut-off.xml",
