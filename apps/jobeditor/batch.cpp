@@ -1,7 +1,9 @@
 #include "batch.h"
 
 #include "editorwindow.h"
+#include "rulespane.h"
 
+#include <isubsetting.h>
 #include <jedcommonhelper.h>
 #include <QApplication>
 #include <QBuffer>
@@ -12,7 +14,9 @@
 #include <QTextStream>
 #include <resourcedescription.h>
 #include <resourceselectiondialog.h>
+#include <session/fieldplaces.h>
 #include <session/headlessdialogs.h>
+#include <session/rulelog.h>
 #include <session/savefile.h>
 #include <session/sessionrunner.h>
 
@@ -65,6 +69,29 @@ private:
     EditorWindow* m_window; // Not owned.
 };
 
+QString titleOf(const JobSession::Setting* setting)
+{
+    const auto* const above = setting->parent();
+    return above ? QStringLiteral("%1 / %2").arg(titleOf(above), setting->getDisplayName())
+                 : setting->getDisplayName();
+}
+
+// One line for each value that stands as a rule has set it.
+QString valuesSetByRules(const JobSession& session, const Session::RuleLog& log)
+{
+    QStringList paths = log.marks().keys();
+    paths.sort();
+    QString result;
+    for (const QString& path : qAsConst(paths)) {
+        const Session::RuleMark mark = log.marks().value(path);
+        const Session::FieldPlace place = Session::findField(session, path);
+        result += QCoreApplication::translate("batch", "Set by rules: %1 / %2 %3 -> %4 (%5)\n")
+                      .arg(place.setting ? titleOf(place.setting) : path, Session::fieldLabel(path),
+                           mark.before, mark.after, mark.function);
+    }
+    return result;
+}
+
 int fail(const Finding& finding)
 {
     QTextStream(stderr) << finding.toText() << '\n';
@@ -92,6 +119,8 @@ int runBatch(const QString& scenarioFile, EditorWindow* window, JobSession* sess
         QTextStream(stderr) << found.toText() << '\n';
     for (const QString& file : runner.files())
         QTextStream(stdout) << file << '\n';
+    if (const auto* const rules = window->findChild<RulesPane*>())
+        QTextStream(stdout) << valuesSetByRules(*session, rules->log());
     return isDone ? 0 : 1;
 }
 

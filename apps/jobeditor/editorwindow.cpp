@@ -4,6 +4,7 @@
 #include "problemspane.h"
 #include "recoverydialog.h"
 #include "resourcepane.h"
+#include "rulespane.h"
 #include "startpage.h"
 #include "tracepane.h"
 #include "treepane.h"
@@ -17,10 +18,12 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
+#include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <session/jobsession.h>
 
 using JEDVEPLUGIN::ISubSetting;
@@ -31,7 +34,21 @@ using Session::Recovery;
 
 namespace {
 constexpr int DOCK_HEIGHT = 150;
+
+// Brings a control into view: the tabs that it is on come to the front, what it lies in is scrolled.
+void reveal(QWidget* control)
+{
+    for (QWidget* parent = control->parentWidget(); parent; parent = parent->parentWidget()) {
+        auto* const tabs = qobject_cast<QTabWidget*>(parent);
+        for (int i = 0; tabs && i < tabs->count(); ++i) {
+            if (tabs->widget(i)->isAncestorOf(control))
+                tabs->setCurrentIndex(i);
+        }
+        if (auto* const area = qobject_cast<QScrollArea*>(parent))
+            area->ensureWidgetVisible(control);
+    }
 }
+} // namespace
 
 EditorWindow::EditorWindow(Session::PluginHost* host, JobSession* session)
     : m_host(host)
@@ -170,9 +187,16 @@ void EditorWindow::buildDocks()
     QDockWidget* const trace = add(QStringLiteral("traceDock"), tr("Messages"), new TracePane(this));
     tabifyDockWidget(problems, receivers);
     tabifyDockWidget(receivers, trace);
+    m_rules = new RulesPane(m_session, this);
+    QDockWidget* const rules = add(QStringLiteral("rulesDock"), tr("Rules"), m_rules);
+    tabifyDockWidget(receivers, rules);
     problems->raise();
     resizeDocks({problems}, {DOCK_HEIGHT}, Qt::Vertical);
     connect(m_problems, &ProblemsPane::problemChosen, this, &EditorWindow::showProblem);
+    connect(m_rules, &RulesPane::fieldChosen, this, &EditorWindow::showProblem);
+    connect(m_rules, &RulesPane::faultCountChanged, this, [rules](int count) {
+        rules->setWindowTitle(count == 0 ? tr("Rules") : tr("Rules (%1 failed)").arg(count));
+    });
     connect(m_problems, &ProblemsPane::countChanged, this, [problems](int count) {
         problems->setWindowTitle(count == 0 ? tr("Problems") : tr("Problems (%1)").arg(count));
     });
@@ -225,6 +249,8 @@ void EditorWindow::showProblem(ISubSetting* setting, const QString& parameterSet
     if (!editor)
         return;
     QWidget* const control = editor->findChild<QWidget*>(QStringLiteral("%1/%2").arg(parameterSet, field));
+    if (control)
+        reveal(control);
     (control ? control : editor)->setFocus(Qt::OtherFocusReason);
 }
 
@@ -256,6 +282,7 @@ void EditorWindow::showCurrent()
                    unclaimed >= 0
                        ? tr("This sub-job is kept as it is. %1").arg(m_session->topLevel(unclaimed).reason)
                        : tr("Add a setting, or select one in the tree."));
+    m_rules->markFields(m_tree->currentSetting() ? m_tree->currentSetting()->getWidget() : nullptr);
     updateActions();
 }
 

@@ -9,6 +9,7 @@ class ProblemsPane;
 class QAction;
 class QMenu;
 class QStackedWidget;
+class RulesPane;
 class StartPage;
 class TreePane;
 
@@ -99,6 +100,7 @@ private:
     TreePane* m_tree;
     EditorPane* m_editor;
     ProblemsPane* m_problems = nullptr;
+    RulesPane* m_rules = nullptr;
     QMenu* m_settingMenu = nullptr;
     QAction* m_readOnly = nullptr;
     QAction* m_copy = nullptr;

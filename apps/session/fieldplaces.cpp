@@ -4,6 +4,7 @@
 
 #include <isubsetting.h>
 #include <jobxml/parametersettext.h>
+#include <jobxml/settings.h>
 #include <QWidget>
 #include <reportlayer/elementtable.h>
 #include <values/valuebase.h>
@@ -81,6 +82,13 @@ QString fieldLabel(const QString& valueTreePath)
     const REPORTGENERATOR::Field* const field =
         JobXml::ParameterSetText::field(setOf(valueTreePath), idOf(valueTreePath));
     return field ? field->label() : idOf(valueTreePath);
+}
+
+QString fieldTitle(const QString& valueTreePath)
+{
+    const REPORTGENERATOR::ParameterSet* const set = JobXml::findParameterSet(setOf(valueTreePath));
+    const QString label = fieldLabel(valueTreePath);
+    return set ? QStringLiteral("%1 / %2").arg(set->label(), label) : label;
 }
 
 QString fieldOfPath(const QString& valueTreePath)

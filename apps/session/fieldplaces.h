@@ -32,9 +32,11 @@ ValueBase* fieldValue(JEDVEPLUGIN::ISubSetting* setting, const QString& paramete
 /// the settings that carry the parameter set.
 FieldPlace findField(const JobSession& session, const QString& valueTreePath);
 
-/// What a user is told of a value, by its path in the value tree: "Bandwidth". The last part of the path if it stands
-/// for no field.
+/// What a user is told of a value, by its path in the value tree: the label of its field, "Bandwidth". The last part of
+/// the path if it stands for no field.
 QString fieldLabel(const QString& valueTreePath);
+/// The same behind the label of the parameter set: "Scan settings / Bandwidth".
+QString fieldTitle(const QString& valueTreePath);
 
 /// "SET/FIELD" of a path in the value tree.
 QString fieldOfPath(const QString& valueTreePath);

@@ -77,6 +77,7 @@ void ParameterSetEditor::setMark(const QString& field, const QString& mark, cons
         return;
     label->setText(mark);
     label->setToolTip(toolTip);
+    label->setAccessibleDescription(toolTip);
     label->setVisible(!mark.isEmpty());
 }
 
