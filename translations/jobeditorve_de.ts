@@ -321,6 +321,14 @@ Anlage: %3</translation>
         <source>%1[*] (read only) - Job editor</source>
         <translation>%1[*] (nur lesen) - Auftragseditor</translation>
     </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>Rules (%1 failed)</source>
+        <translation>Regeln (%1 fehlgeschlagen)</translation>
+    </message>
 </context>
 <context>
     <name>FreqStoreXml::FileHandling</name>
@@ -4121,6 +4129,84 @@ Anlage: %3</translation>
     <message>
         <source>not offered by the installation</source>
         <translation>von der Anlage nicht angeboten</translation>
+    </message>
+</context>
+<context>
+    <name>RuleRunModel</name>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Set off by, or what was changed</source>
+        <translation>Ausgelöst durch, oder was geändert wurde</translation>
+    </message>
+    <message>
+        <source>Time (UTC)</source>
+        <translation>Zeit (UTC)</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>%1 (not in the script)</source>
+        <translation>%1 (nicht im Skript)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>It ran for too long. What it had changed stays changed.</source>
+        <translation>Sie lief zu lange. Was sie geändert hat, bleibt geändert.</translation>
+    </message>
+    <message>
+        <source>Further runs</source>
+        <translation>Weitere Läufe</translation>
+    </message>
+</context>
+<context>
+    <name>RulesPane</name>
+    <message>
+        <source>by rule</source>
+        <translation>durch Regel</translation>
+    </message>
+    <message>
+        <source>Set by the rule %1 at %2 UTC. Before: %3</source>
+        <translation>Gesetzt von der Regel %1 um %2 UTC. Vorher: %3</translation>
+    </message>
+    <message>
+        <source>Rules that ran</source>
+        <translation>Gelaufene Regeln</translation>
+    </message>
+    <message>
+        <source>Filter rules</source>
+        <translation>Regeln filtern</translation>
+    </message>
+    <message>
+        <source>Changes &amp;without a rule</source>
+        <translation>Änderungen &amp;ohne Regel</translation>
+    </message>
+    <message>
+        <source>Shows also values for which the script has no function</source>
+        <translation>Zeigt auch Werte, für die das Skript keine Funktion hat</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Leeren</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@ QString titleOf(const JobSession::Setting* setting)
                  : setting->getDisplayName();
 }
 
-// One line for each value that stands as a rule has set it.
+// One line for each value that stands as a rule has set it. Not translated: scripts read it.
 QString valuesSetByRules(const JobSession& session, const Session::RuleLog& log)
 {
     QStringList paths = log.marks().keys();
@@ -85,7 +85,7 @@ QString valuesSetByRules(const JobSession& session, const Session::RuleLog& log)
     for (const QString& path : qAsConst(paths)) {
         const Session::RuleMark mark = log.marks().value(path);
         const Session::FieldPlace place = Session::findField(session, path);
-        result += QCoreApplication::translate("batch", "Set by rules: %1 / %2 %3 -> %4 (%5)\n")
+        result += QStringLiteral("Set by rules: %1 / %2 %3 -> %4 (%5)\n")
                       .arg(place.setting ? titleOf(place.setting) : path, Session::fieldLabel(path),
                            mark.before, mark.after, mark.function);
     }

@@ -23,6 +23,12 @@ QString textOf(const RuleChange& change)
     return QString("%1 %2->%3").arg(nameOf(change.path), change.before, change.after);
 }
 
+// The oldest signal that a spy has; empty if there is none.
+QVariantList take(QSignalSpy* spy)
+{
+    return spy->isEmpty() ? QVariantList() : spy->takeFirst();
+}
+
 // A run and those inside it: trigger, function, changes.
 QString textOf(const RuleRun& run)
 {
@@ -236,10 +242,10 @@ void TstRuleLog::numberOfRunsIsLimited()
     QCOMPARE(dropped.size(), 0);
     setup->ReloadScriptAndRun("h");
     QCOMPARE(log.runs().size(), 3);
-    QCOMPARE(dropped.takeFirst(), QVariantList{1});
+    QCOMPARE(take(&dropped), QVariantList{1});
     // Two runs in one another need two places.
     b->SetValue(5);
-    QCOMPARE(dropped.takeFirst(), QVariantList{2});
+    QCOMPARE(take(&dropped), QVariantList{2});
     QCOMPARE(textOf(log), QStringList({"host, h", "B 0->5, g, C 0->5, (C 0->5, h)"}));
 }
 
@@ -268,7 +274,7 @@ void TstRuleLog::clearedLogIsEmpty()
     QSignalSpy dropped(&log, &RuleLog::runsDropped);
     log.clear();
     QVERIFY(log.runs().isEmpty());
-    QCOMPARE(dropped.takeFirst(), QVariantList{2});
+    QCOMPARE(take(&dropped), QVariantList{2});
     log.clear();
     QCOMPARE(dropped.size(), 0);
 }
@@ -284,7 +290,7 @@ void TstRuleLog::markStaysUntilSomebodySetsTheValue()
     a->SetValue(1);
     QCOMPARE(marksOf(log), QStringList("B f: 0->2"));
     QCOMPARE(changed.size(), 1);
-    QCOMPARE(nameOf(changed.takeFirst().value(0).toString()), QString("B"));
+    QCOMPARE(nameOf(take(&changed).value(0).toString()), QString("B"));
     b->SetValue(8);
     QCOMPARE(marksOf(log), QStringList());
     QCOMPARE(changed.size(), 1);
