@@ -10,11 +10,11 @@ set(JED_PACKAGE lib/cmake/JobEditorVE)
 set_target_properties(jed_platform PROPERTIES EXPORT_NAME Platform)
 set_target_properties(JobEditorVEPluginBase PROPERTIES EXPORT_NAME PluginBase)
 set_target_properties(${JED_PLATFORM_LIBRARIES} JobEditorVEPluginBase PROPERTIES INSTALL_RPATH "$ORIGIN")
-set_target_properties(jobeditor jedtool PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
+set_target_properties(jobeditor jedtool mapview PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
 
 install(TARGETS ${JED_PLATFORM_LIBRARIES} jed_platform JobEditorVEPluginBase jed_plugin_kit EXPORT JobEditorVETargets
         LIBRARY DESTINATION lib ARCHIVE DESTINATION lib)
-install(TARGETS jobeditor jedtool RUNTIME DESTINATION bin)
+install(TARGETS jobeditor jedtool mapview RUNTIME DESTINATION bin)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/" DESTINATION ${JED_HEADERS} FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/plugins/kit" DESTINATION ${JED_HEADERS} FILES_MATCHING PATTERN "*.h")
 foreach(library IN LISTS JED_PLATFORM_LIBRARIES)

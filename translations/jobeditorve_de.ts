@@ -3828,6 +3828,200 @@ Anlage: %3</translation>
     </message>
 </context>
 <context>
+    <name>LayersPane</name>
+    <message>
+        <source>Layers</source>
+        <translation>Ebenen</translation>
+    </message>
+    <message>
+        <source>Layer without a name</source>
+        <translation>Ebene ohne Namen</translation>
+    </message>
+</context>
+<context>
+    <name>MapCanvas</name>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>%1 of %2 may not be deleted</source>
+        <translation>%1 von %2 dürfen nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>%1 objects are selected</source>
+        <translation>%1 Objekte sind ausgewählt</translation>
+    </message>
+    <message>
+        <source>Nothing is selected. Tab selects the next object.</source>
+        <translation>Nichts ist ausgewählt. Tab wählt das nächste Objekt.</translation>
+    </message>
+    <message>
+        <source>%1 is selected, at %2</source>
+        <translation>%1 ist ausgewählt, bei %2</translation>
+    </message>
+    <message>
+        <source>Draw %1: a click or Enter sets a point, a double click or Enter again ends, Backspace takes the last point back, Escape gives it up.</source>
+        <translation>%1 zeichnen: Klick oder Eingabetaste setzt einen Punkt, Doppelklick oder nochmals Eingabetaste beendet, Rücktaste nimmt den letzten Punkt zurück, Escape bricht ab.</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 Punkte</translation>
+    </message>
+    <message>
+        <source>A polygon has three points at least.</source>
+        <translation>Ein Polygon hat mindestens drei Punkte.</translation>
+    </message>
+</context>
+<context>
+    <name>MapConnection</name>
+    <message>
+        <source>it does not read</source>
+        <translation>es liest nicht</translation>
+    </message>
+    <message>
+        <source>it does not keep to the rules</source>
+        <translation>es hält sich nicht an die Regeln</translation>
+    </message>
+    <message>
+        <source>it draws more than the map can hold</source>
+        <translation>es zeichnet mehr, als die Karte fassen kann</translation>
+    </message>
+    <message>
+        <source>it speaks version %1, the map version %2</source>
+        <translation>es spricht Version %1, die Karte Version %2</translation>
+    </message>
+</context>
+<context>
+    <name>MapPainter</name>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° O</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° W</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+</context>
+<context>
+    <name>MapServer</name>
+    <message>
+        <source>another map program runs already</source>
+        <translation>es läuft schon ein anderes Kartenprogramm</translation>
+    </message>
+    <message>
+        <source>%1 has come</source>
+        <translation>%1 ist gekommen</translation>
+    </message>
+    <message>
+        <source>a client without a name</source>
+        <translation>einem Programm ohne Namen</translation>
+    </message>
+    <message>
+        <source>Link to %1 closed: %2</source>
+        <translation>Verbindung zu %1 geschlossen: %2</translation>
+    </message>
+    <message>
+        <source>%1 has gone</source>
+        <translation>%1 ist gegangen</translation>
+    </message>
+</context>
+<context>
+    <name>MapWindow</name>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Ebenen</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Karte</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture...</source>
+        <translation>Bild &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>B&amp;earbeiten</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select &amp;next</source>
+        <translation>&amp;Nächstes auswählen</translation>
+    </message>
+    <message>
+        <source>Select &amp;previous</source>
+        <translation>&amp;Voriges auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Whole &amp;world</source>
+        <translation>Ganze &amp;Welt</translation>
+    </message>
+    <message>
+        <source>All &amp;objects</source>
+        <translation>Alle &amp;Objekte</translation>
+    </message>
+    <message>
+        <source>&amp;Selected objects</source>
+        <translation>&amp;Ausgewählte Objekte</translation>
+    </message>
+    <message>
+        <source>Clients: %1</source>
+        <translation>Programme: %1</translation>
+    </message>
+    <message>
+        <source>Save picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Bilder (*.png)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
     <name>MinimalPlugin</name>
     <message>
         <source>Sub-job</source>
@@ -3836,6 +4030,17 @@ Anlage: %3</translation>
     <message>
         <source>Tunes one receiver for each sub-job.</source>
         <translation>Stimmt für jeden Teilauftrag einen Empfänger ab.</translation>
+    </message>
+</context>
+<context>
+    <name>ObjectsPane</name>
+    <message>
+        <source>Objects</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Object without a name</source>
+        <translation>Objekt ohne Namen</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,60 @@
+#include "mapwindow.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTextStream>
+#include <quilappstartup/cfgcenter.h>
+#include <quilappstartup/translationcenter.h>
+
+namespace {
+// The language of the installation; English where it names none or has no translation.
+void useLanguage(const QString& installation)
+{
+    CfgCenter* const center = CfgCenter::Instance();
+    center->SetDefaultInstallation(QStringLiteral(JED_EXAMPLE_INSTALLATION));
+    center->SetInstallation(installation);
+    TranslationCenter* const translations = TranslationCenter::Instance();
+    translations->AddFolder(QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                            QStringLiteral("/../lib/jobeditorve/translations")));
+    translations->SetLanguage(center->GetAdminCfg(2)->GetString(QStringLiteral("Language")));
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("mapview"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(JED_VERSION));
+
+    QCommandLineParser parser;
+    const auto text = [](const char* source) { return QCoreApplication::translate("main", source); };
+    parser.setApplicationDescription(text("The map on which other programs draw."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption({QStringLiteral("installation"), text("Folder of the installation."), text("DIR")});
+    parser.addOption({QStringLiteral("server"), text("Name by which clients find the map."), text("NAME")});
+    parser.addOption({QStringLiteral("dark"), text("Light colours on dark windows.")});
+    parser.addOption({QStringLiteral("picture"),
+                      text("Write a picture when the first client leaves, and end."), text("FILE")});
+    parser.addOption({QStringLiteral("size"), text("Size of the window, in pixels."), text("WxH")});
+    parser.process(application);
+
+    useLanguage(parser.value(QStringLiteral("installation")));
+    if (parser.isSet(QStringLiteral("dark")))
+        MapWindow::useDarkWindows();
+    MapWindow window;
+    const QStringList size = parser.value(QStringLiteral("size")).split(QLatin1Char('x'));
+    if (size.value(0).toInt() > 0 && size.value(1).toInt() > 0)
+        window.resize(size[0].toInt(), size[1].toInt());
+    window.show();
+    QString error;
+    if (!window.listen(MapMessage::serverName(parser.value(QStringLiteral("server"))), &error)) {
+        QTextStream(stderr) << error << '\n';
+        return 1;
+    }
+    if (parser.isSet(QStringLiteral("picture")))
+        window.drawPicture(parser.value(QStringLiteral("picture")));
+    return QApplication::exec();
+}

@@ -1,0 +1,250 @@
+#include "mapcanvas.h"
+
+#include "mappainter.h"
+
+#include <algorithm>
+#include <QEvent>
+#include <QPainter>
+#include <QPaintEvent>
+
+namespace {
+constexpr int MANY_PARTS = 8;   // Parts of the picture to be painted anew; more are painted as one.
+constexpr int CROSS_ARM = 12;   // Pixels.
+constexpr int POINT_RADIUS = 3; // Pixels.
+} // namespace
+
+MapCanvas::MapCanvas(MapScene* scene, QWidget* parent)
+    : QWidget(parent)
+    , m_scene(scene)
+{
+    setObjectName(QStringLiteral("MapCanvas"));
+    setAccessibleName(tr("Map"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(200, 150);
+    connect(m_scene, &MapScene::changed, this, &MapCanvas::invalidate);
+    connect(m_scene, &MapScene::layersChanged, this, &MapCanvas::invalidateAll);
+    connect(m_scene, &MapScene::paintingChanged, this, QOverload<>::of(&QWidget::update));
+    connect(m_scene, &MapScene::selectionChanged, this, &MapCanvas::describeSelection);
+    connect(m_scene, &MapScene::showRequested, this, &MapCanvas::showGroup);
+    connect(m_scene, &MapScene::pendingPolygonChanged, this, &MapCanvas::startDrawing);
+    describeSelection();
+}
+
+void MapCanvas::shift(const QPoint& pixels)
+{
+    const QPoint before = m_view.origin();
+    m_view.shift(pixels);
+    const QPoint moved = before - m_view.origin();
+    if (moved.isNull())
+        return;
+    refresh();
+    const QPointF scaled = QPointF(moved) * devicePixelRatioF();
+    if (QPointF(scaled.toPoint()) == scaled && !m_picture.isNull()) {
+        m_picture.scroll(scaled.toPoint().x(), scaled.toPoint().y(), m_picture.rect());
+        m_dirty = QRegion(rect()).subtracted(rect().translated(moved));
+        update();
+    } else {
+        invalidateAll();
+    }
+    emit viewChanged(m_view.area());
+}
+
+void MapCanvas::zoom(double factor)
+{
+    m_view.zoom(factor, m_view.middle());
+    viewHasChanged();
+}
+
+void MapCanvas::showWorld()
+{
+    m_view.showWorld();
+    viewHasChanged();
+}
+
+void MapCanvas::showObjects()
+{
+    showAll(m_scene->visibleGroups());
+}
+
+void MapCanvas::showSelection()
+{
+    showAll(m_scene->selection().values().toVector());
+}
+
+void MapCanvas::showGroup(quint64 key)
+{
+    if (!m_scene->group(key))
+        return;
+    const QRectF box = m_scene->group(key)->box;
+    const QRectF area = m_view.area();
+    if (box.width() > area.width() || box.height() > area.height())
+        m_view.show(box);
+    else
+        m_view.center(box.center());
+    viewHasChanged();
+}
+
+void MapCanvas::selectAll()
+{
+    const QVector<MapKey> keys = m_scene->visibleGroups();
+    m_scene->select(QSet<MapKey>(keys.begin(), keys.end()));
+}
+
+bool MapCanvas::selectNext(bool forward)
+{
+    const QVector<MapKey> keys = m_scene->visibleGroups();
+    int place = forward ? 0 : keys.size() - 1;
+    for (int i = 0; i < keys.size() && !m_scene->selection().isEmpty(); ++i) {
+        if (m_scene->selection().contains(keys[i])) {
+            place = forward ? i + 1 : i - 1;
+            break;
+        }
+    }
+    if (place < 0 || place >= keys.size()) {
+        m_scene->select({});
+        return false;
+    }
+    m_scene->select({keys[place]});
+    if (!m_view.area().contains(m_scene->group(keys[place])->box.center()))
+        showGroup(keys[place]);
+    return true;
+}
+
+void MapCanvas::eraseSelection()
+{
+    const int before = m_scene->selection().size();
+    m_scene->erase(m_scene->selection());
+    if (const int kept = m_scene->selection().size())
+        emit hint(tr("%1 of %2 may not be deleted").arg(kept).arg(before));
+}
+
+void MapCanvas::paintEvent(QPaintEvent* event)
+{
+    // While a client draws much, what was there before is good enough.
+    if (m_scene->isPainting() || m_picture.isNull())
+        refresh();
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawPixmap(0, 0, m_picture);
+    MapPainter::paintLabels(&painter, m_view, palette());
+    paintMarks(&painter);
+}
+
+void MapCanvas::resizeEvent(QResizeEvent*)
+{
+    m_view.resize(size());
+    viewHasChanged();
+}
+
+void MapCanvas::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        invalidateAll();
+    QWidget::changeEvent(event);
+}
+
+void MapCanvas::invalidate(const QRectF& degrees)
+{
+    constexpr int REACH = 2 * MapPainter::MARGIN;
+    const QRectF pixels = m_view.toPixels(degrees).adjusted(-REACH, -REACH, REACH, REACH).intersected(rect());
+    if (pixels.isEmpty())
+        return;
+    m_dirty += pixels.toAlignedRect();
+    if (m_dirty.rectCount() > MANY_PARTS)
+        m_dirty = m_dirty.boundingRect();
+    if (m_scene->isPainting())
+        update();
+}
+
+void MapCanvas::invalidateAll()
+{
+    m_dirty = rect();
+    update();
+}
+
+void MapCanvas::showAll(const QVector<MapKey>& keys)
+{
+    if (keys.isEmpty())
+        return;
+    QRectF area = m_scene->group(keys.first())->box;
+    for (const MapKey key : keys)
+        area = area.united(m_scene->group(key)->box);
+    m_view.show(area);
+    viewHasChanged();
+}
+
+// Brings the picture up to date.
+void MapCanvas::refresh()
+{
+    const QSize pixels = size() * devicePixelRatioF();
+    if (m_picture.size() != pixels) {
+        m_picture = QPixmap(pixels);
+        m_picture.setDevicePixelRatio(devicePixelRatioF());
+        m_dirty = rect();
+    }
+    QPainter painter(&m_picture);
+    painter.setFont(font());
+    for (const QRect& part : std::exchange(m_dirty, QRegion()))
+        MapPainter::paintMap(&painter, m_view, *m_scene, palette(), part);
+}
+
+void MapCanvas::viewHasChanged()
+{
+    invalidateAll();
+    emit viewChanged(m_view.area());
+}
+
+void MapCanvas::describeSelection()
+{
+    const QSet<MapKey>& selection = m_scene->selection();
+    if (selection.size() > 1) {
+        setAccessibleDescription(tr("%1 objects are selected").arg(selection.size()));
+    } else if (selection.isEmpty()) {
+        setAccessibleDescription(tr("Nothing is selected. Tab selects the next object."));
+    } else {
+        const MapGroup* const group = m_scene->group(*selection.begin());
+        setAccessibleDescription(
+            tr("%1 is selected, at %2")
+                .arg(group->name, MapPainter::placeText(group->box.center(), m_view.scale())));
+    }
+    // A single rectangle has handles, one among others has none.
+    for (const MapKey key : selection)
+        invalidate(m_scene->group(key)->box);
+    emit hint(accessibleDescription());
+}
+
+// What is being done and is not on the map yet.
+void MapCanvas::paintMarks(QPainter* painter)
+{
+    const QColor color = MapPainter::markColor(palette());
+    const QPoint offset = m_last - m_pressed;
+    painter->setPen(QPen(color, 2, Qt::DashLine));
+    if (m_isDragged && (m_gesture == GESTURE_SELECT || m_gesture == GESTURE_ZOOM))
+        painter->drawRect(QRect(m_pressed, m_last).normalized());
+    if (m_isDragged && m_gesture == GESTURE_RESIZE)
+        painter->drawRect(
+            m_view.toPixels(resizedBox(offset)).intersected(QRectF(rect()).adjusted(-9, -9, 9, 9)));
+    if (m_isDragged && m_gesture == GESTURE_MOVE) {
+        for (const MapKey key : m_scene->selection()) {
+            if (m_scene->canMove(key))
+                painter->drawRect(m_view.toPixels(m_scene->group(key)->box)
+                                      .translated(offset)
+                                      .intersected(QRectF(rect()).adjusted(-9, -9, 9, 9)));
+        }
+    }
+    if (m_drawing == 0)
+        return;
+    QPolygonF line;
+    for (const QPointF& point : qAsConst(m_points))
+        line.append(m_view.toPixels(point));
+    const QPointF cross = m_view.toPixels(m_cross);
+    painter->drawPolyline(QPolygonF(line) << cross);
+    painter->setPen(QPen(color, 2));
+    painter->setBrush(color);
+    for (const QPointF& point : qAsConst(line))
+        painter->drawEllipse(point, POINT_RADIUS, POINT_RADIUS);
+    painter->drawLine(cross - QPointF(CROSS_ARM, 0), cross + QPointF(CROSS_ARM, 0));
+    painter->drawLine(cross - QPointF(0, CROSS_ARM), cross + QPointF(0, CROSS_ARM));
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "mapscene.h"
+#include "viewport.h"
+
+#include <QPixmap>
+#include <QRegion>
+#include <QWidget>
+
+/// The map as one sees it, and what one does there with mouse and keyboard.
+///
+/// What is painted is kept: a shift of the map paints the strips that come into view, a change of a shape what lies
+/// below it.
+class MapCanvas : public QWidget
+{
+    Q_OBJECT
+public:
+    static constexpr double ZOOM_STEP = 1.5;
+
+    /// \param scene  must outlive the canvas
+    MapCanvas(MapScene* scene, QWidget* parent);
+
+    const Viewport& viewport() const { return m_view; }
+    bool isDrawing() const { return m_drawing != 0; }
+
+    void shift(const QPoint& pixels);
+    void zoom(double factor);
+    void showWorld();
+    /// All that is drawn and visible.
+    void showObjects();
+    void showSelection();
+    /// One that is not there any more is not shown.
+    void showGroup(quint64 key);
+    void selectAll();
+    /// \return false, with nothing selected, behind the last one or before the first
+    bool selectNext(bool forward);
+    void eraseSelection();
+
+signals:
+    /// In degrees.
+    void viewChanged(const QRectF& area);
+    /// The place of the mouse, or of the cross while a polygon is drawn, in degrees.
+    void pointed(const QPointF& place);
+    void hint(const QString& text);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    enum Gesture { GESTURE_NONE, GESTURE_SHIFT, GESTURE_MOVE, GESTURE_RESIZE, GESTURE_SELECT, GESTURE_ZOOM };
+
+    void invalidate(const QRectF& degrees);
+    void invalidateAll();
+    void refresh();
+    void showAll(const QVector<MapKey>& keys);
+    void viewHasChanged();
+    void describeSelection();
+    void paintMarks(QPainter* painter);
+
+    MapKey groupAt(const QPoint& pixel) const;
+    int cornerAt(const QPoint& pixel) const;
+    void click(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
+    void endGesture(const QPoint& pixel);
+    QRectF resizedBox(const QPoint& offset) const;
+    QPointF offsetInDegrees(const QPoint& pixels) const;
+    bool moveByKey(const QPoint& direction, Qt::KeyboardModifiers modifiers);
+
+    void startDrawing();
+    bool drawByKey(int key, const QPoint& direction, Qt::KeyboardModifiers modifiers);
+    void addPoint(const QPointF& place);
+    void finishDrawing();
+
+    MapScene* m_scene; // Not owned.
+    Viewport m_view;
+    QPixmap m_picture; // The map without marks; right but for m_dirty.
+    QRegion m_dirty;
+
+    Gesture m_gesture = GESTURE_NONE;
+    bool m_isDragged = false; // The mouse was moved far enough to mean it.
+    QPoint m_pressed;
+    QPoint m_last;
+    int m_corner = -1; // Of a rectangle that is made larger or smaller.
+
+    MapKey m_drawing = 0; // The polygon that the user draws; 0: none.
+    QVector<QPointF> m_points;
+    QPointF m_cross; // Degrees.
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "mapscene.h"
+
+#include <QMainWindow>
+
+class MapCanvas;
+class MapServer;
+class QLabel;
+
+/// The window of the map program, with all that belongs to it.
+class MapWindow : public QMainWindow
+{
+    Q_OBJECT
+public:
+    MapWindow();
+    ~MapWindow() override;
+
+    /// \param name  see MapMessage::serverName()
+    /// \return false if there is another map program; \p error tells
+    bool listen(const QString& name, QString* error);
+    /// Writes a picture of what the first client has drawn into a file when that client leaves, and ends the program:
+    /// with 0 if it could be written.
+    void drawPicture(const QString& file);
+
+    /// To be called before the window is made.
+    static void useDarkWindows();
+
+    MapScene* scene() { return &m_scene; }
+    MapCanvas* canvas() { return m_canvas; }
+
+private:
+    void buildMenus();
+    void buildStatusBar();
+    void addPane(QWidget* pane, const QString& title);
+    void savePicture();
+    void leaveWithPicture(const QString& file);
+
+    MapScene m_scene;
+    MapCanvas* m_canvas;
+    MapServer* m_server;
+    QLabel* m_place;
+    QLabel* m_clients;
+};
