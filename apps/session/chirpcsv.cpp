@@ -12,9 +12,9 @@ const QLatin1String LOCATION("Location"); // The number of the memory, which say
 constexpr int MEGAHERTZ_DECIMALS = 6;
 
 const Session::ModeCounterpart MODES[] = {
-    {"FM", "FM", 16000}, {"NFM", "FM", 12500}, {"WFM", "FM", 200000}, {"AM", "AM", 10000},
+    {"FM", "FM", 15000}, {"NFM", "FM", 12500}, {"WFM", "FM", 120000}, {"AM", "AM", 6000},
     {"NAM", "AM", 6000}, {"USB", "USB", 2700}, {"LSB", "LSB", 2700},  {"CW", "CW", 500},
-    {"CWR", "CW", 500},  {"NCW", "CW", 250},   {"NCWR", "CW", 250},   {nullptr, nullptr, 0},
+    {"CWR", "CW", 500},  {"NCW", "CW", 300},   {"NCWR", "CW", 300},   {nullptr, nullptr, 0},
 };
 
 class Texts

@@ -14,11 +14,10 @@ const QChar SEPARATOR = QLatin1Char(';');
 const QLatin1String COMMENT("#");
 
 const Session::ModeCounterpart MODES[] = {
-    {"AM", "AM", 10000},          {"AM-Sync", "AM", 10000},     {"LSB", "LSB", 2700},
+    {"AM", "AM", 6000},           {"AM-Sync", "AM", 6000},      {"LSB", "LSB", 2700},
     {"USB", "USB", 2700},         {"CW-L", "CW", 500},          {"CW-U", "CW", 500},
-    {"CWL", "CW", 500},           {"CWU", "CW", 500},           {"Narrow FM", "FM", 12500},
-    {"NFM", "FM", 12500},         {"WFM (mono)", "FM", 200000}, {"WFM (stereo)", "FM", 200000},
-    {"WFM (oirt)", "FM", 200000}, {nullptr, nullptr, 0},
+    {"Narrow FM", "FM", 12500},   {"WFM (mono)", "FM", 120000}, {"WFM (stereo)", "FM", 120000},
+    {"WFM (oirt)", "FM", 120000}, {nullptr, nullptr, 0},
 };
 
 class Texts

@@ -15,7 +15,7 @@ constexpr int BOOKMARK_LEVEL = 2; // Of the names, within the list and "bookmark
 const char* const MODE_NAMES[] = {"NFM", "WFM", "AM", "DSB", "USB", "CW", "LSB", "RAW"}; // By number.
 
 const Session::ModeCounterpart MODES[] = {
-    {"NFM", "FM", 12500}, {"WFM", "FM", 200000}, {"AM", "AM", 10000},   {"USB", "USB", 2700},
+    {"NFM", "FM", 12500}, {"WFM", "FM", 120000}, {"AM", "AM", 6000},    {"USB", "USB", 2700},
     {"CW", "CW", 500},    {"LSB", "LSB", 2700},  {nullptr, nullptr, 0},
 };
 

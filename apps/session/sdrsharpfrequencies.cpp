@@ -13,7 +13,7 @@ const QLatin1String ENTRY("MemoryEntry");
 constexpr int MAX_LEVELS = 256;
 
 const Session::ModeCounterpart MODES[] = {
-    {"NFM", "FM", 12500}, {"WFM", "FM", 200000}, {"AM", "AM", 10000},   {"LSB", "LSB", 2700},
+    {"NFM", "FM", 12500}, {"WFM", "FM", 120000}, {"AM", "AM", 6000},    {"LSB", "LSB", 2700},
     {"USB", "USB", 2700}, {"CW", "CW", 500},     {nullptr, nullptr, 0},
 };
 

@@ -57,7 +57,8 @@ public:
     /// For sub-jobs that carry any of these.
     bool canImportProfile(const JEDVEPLUGIN::ISubSetting* setting) override;
     /// Sets the sub-job to the first entry of the list and makes a copy of it for each further one, a thousand entries
-    /// at most. Sub-jobs are named by the entries' profiles.
+    /// at most. Sub-jobs are named by the entries' profiles; where they carry analogue demodulation, they get the
+    /// entry's. What does not fit the receiver is a problem of the setting.
     /// \return the copies, which are top-level settings; empty, with nothing changed, for a file that is no such list
     QList<JEDVEPLUGIN::ISubSetting*> importProfile(const QString& file,
                                                    JEDVEPLUGIN::ISubSetting* parent) override;

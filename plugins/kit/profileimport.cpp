@@ -3,6 +3,10 @@
 #include <jobprofilefactory.h>
 
 #include <algorithm>
+#include <freqstorexml/filehandling.h>
+#include <freqstorexml/frequencystore.h>
+#include <jobxml/settings.h>
+#include <reportlayer/rgexception.h>
 
 using JEDVEPLUGIN::IJobProfile;
 using JEDVEPLUGIN::ISubSetting;
@@ -47,6 +51,31 @@ bool applyEntry(IJobProfile& profile, int entry, ISubSetting* subjob)
     }
     return isApplied;
 }
+
+// The entries of a list; none if the file is none.
+QVector<FreqStoreXml::FrequencyStoreEntry> entriesOf(const QString& file)
+{
+    FreqStoreXml::FrequencyStoreList list;
+    try {
+        const FreqStoreXml::FileHandling files;
+        files.ImportXml(file, list);
+    } catch (const REPORTGENERATOR::RGException&) {
+        return {};
+    }
+    return list.GetFrequencyStoreEntry();
+}
+
+// Analogue demodulation is in the list, but profiles do not hand it out.
+bool applyAudio(const FreqStoreXml::FrequencyStoreEntry& entry, ISubSetting* subjob)
+{
+    const QString set = nameOf(JobXmlHandler::SETTING_ANALOG_DEMODULATOR);
+    ISubSetting* const carrier = entry.IsAudio_SettingsSet() ? carrierOf(set, subjob) : nullptr;
+    JobXml::Audio_Settings listed;
+    JobXml::Audio_Settings present;
+    return carrier && listed.SetXmlString(entry.GetAudio_Settings().GetXmlString(), false) &&
+           present.SetXmlString(carrier->parameterSetText(set), false) && present.TakeOver(listed) &&
+           carrier->setParameterSetText(set, present.GetXmlString());
+}
 } // namespace
 
 namespace PluginKit {
@@ -78,12 +107,14 @@ QList<ISubSetting*> KitFactory::importProfile(const QString& file, ISubSetting* 
         canImportProfile(parent) ? JEDVEPLUGIN::JobProfileFactory::getProfile(file) : nullptr;
     if (!profile || !profile->isApplicable())
         return made;
+    const QVector<FreqStoreXml::FrequencyStoreEntry> entries = entriesOf(file);
     const QString original = parent->getMimeText(0);
     for (int entry = 0; entry < std::min(profile->getEntryCount(), MAX_ENTRIES); ++entry) {
         ISubSetting* const subjob = entry == 0 ? parent : pasteMimeText(original, nullptr);
         if (!subjob)
             break;
-        const bool isApplied = applyEntry(*profile, entry, subjob);
+        bool isApplied = applyEntry(*profile, entry, subjob);
+        isApplied = (entry < entries.size() && applyAudio(entries.at(entry), subjob)) || isApplied;
         if (isApplied)
             subjob->setDisplayName(profile->getProfileName(entry));
         if (subjob == parent)

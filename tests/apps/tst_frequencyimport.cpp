@@ -147,7 +147,7 @@ void TstFrequencyImport::samples_data()
     QTest::newRow("gqrx") << "gqrx.csv"
                           << QStringList{"7 Skerry Radio 16: 156.8 MHz, FM, 12.5 kHz",
                                          "8 Skerry Radio \"distress\": 2.182 MHz, USB, 2.8 kHz",
-                                         "9 Oxen Point Volmet: 8.992 MHz, AM, 10 kHz (usual)",
+                                         "9 Oxen Point Volmet: 8.992 MHz, AM, 6 kHz (usual)",
                                          "10 Fog horn beacon: 4.583 MHz, CW, 500 Hz",
                                          "11 Vellin FM, stereo: 98.4 MHz, FM, 160 kHz",
                                          "12 Weather picture: refused: the mode Raw I/Q has no counterpart",
@@ -161,7 +161,7 @@ void TstFrequencyImport::samples_data()
         << QStringList{"3 Skerry Radio 16: 156.8 MHz, FM, 12.5 kHz",
                        "12 Harbour & pilots <north>: 2.182 MHz, USB, 2.8 kHz",
                        "21 Oxen Point <Volmet>: refused: the mode DSB has no counterpart",
-                       "29 Vellin FM: 98.4 MHz, FM, 200 kHz (usual)",
+                       "29 Vellin FM: 98.4 MHz, FM, 120 kHz (usual)",
                        "37 Everything: refused: the mode RAW has no counterpart",
                        "43 Beyond: refused: 40.000000001 GHz is outside of 1 Hz to 40 GHz",
                        "49 No frequency: refused: it has no frequency"}
@@ -180,10 +180,10 @@ void TstFrequencyImport::samples_data()
                                           "21 Below: refused: -1 Hz is outside of 1 Hz to 40 GHz"}
                            << QStringList{"comment"};
     QTest::newRow("chirp") << "chirp.csv"
-                           << QStringList{"2 SKERRY: 156.8 MHz, FM, 16 kHz (usual)",
+                           << QStringList{"2 SKERRY: 156.8 MHz, FM, 15 kHz (usual)",
                                           "3 HILL: 145.6125 MHz, FM, 12.5 kHz (usual)",
-                                          "5 OXEN, PT: 8.992 MHz, AM, 10 kHz (usual)",
-                                          "6 VELLIN: 98.4 MHz, FM, 200 kHz (usual)",
+                                          "5 OXEN, PT: 8.992 MHz, AM, 6 kHz (usual)",
+                                          "6 VELLIN: 98.4 MHz, FM, 120 kHz (usual)",
                                           "8 DIGI: refused: the mode DV has no counterpart",
                                           "9 FINE: refused: 145.0000001 is no whole number of hertz",
                                           "10 COMMA: refused: 145,5 is no number",
@@ -239,17 +239,17 @@ void TstFrequencyImport::damagedFiles_data()
                        "8 Twice: 156.8 MHz, FM, 12.5 kHz (usual)"};
     QTest::newRow("chirp-damaged-columns.csv") << QStringList{
         "2 SKERRY: refused: number of fields: 4, expected: 5",
-        "3 HILL: refused: number of fields: 6, expected: 5", "4 OXEN: 8.992 MHz, AM, 10 kHz (usual)",
+        "3 HILL: refused: number of fields: 6, expected: 5", "4 OXEN: 8.992 MHz, AM, 6 kHz (usual)",
         "5 : refused: number of fields: 1, expected: 5"};
     QTest::newRow("chirp-damaged-header.csv")
         << QStringList{"1 list: its first line does not name the columns Frequency and Mode"};
     QTest::newRow("chirp-damaged-quote.csv")
-        << QStringList{"2 SKERRY: 156.8 MHz, FM, 16 kHz (usual)",
+        << QStringList{"2 SKERRY: 156.8 MHz, FM, 15 kHz (usual)",
                        "3 HILL: refused: something stands behind a closing quote",
-                       "4 OXEN: 8.992 MHz, AM, 10 kHz (usual)",
+                       "4 OXEN: 8.992 MHz, AM, 6 kHz (usual)",
                        "5 VELLIN: refused: something stands behind a closing quote",
                        "6 CROSS: refused: a quote stands in a field without quotes",
-                       "7 LAST: 156.65 MHz, FM, 16 kHz (usual)"};
+                       "7 LAST: 156.65 MHz, FM, 15 kHz (usual)"};
 }
 
 void TstFrequencyImport::damagedFiles()
@@ -291,31 +291,31 @@ void TstFrequencyImport::modesAreTranslated_data()
                         int bandwidth = 0) {
         QTest::addRow("%s %s", format, mode) << format << QByteArray(mode) << demodulation << bandwidth;
     };
-    row("gqrx", "AM", "AM", 10000);
-    row("gqrx", "am", "AM", 10000);
-    row("gqrx", "AM-Sync", "AM", 10000);
+    row("gqrx", "AM", "AM", 6000);
+    row("gqrx", "am", "AM", 6000);
+    row("gqrx", "AM-Sync", "AM", 6000);
     row("gqrx", "LSB", "LSB", 2700);
     row("gqrx", "USB", "USB", 2700);
     row("gqrx", "CW-L", "CW", 500);
     row("gqrx", "CW-U", "CW", 500);
     row("gqrx", "Narrow FM", "FM", 12500);
-    row("gqrx", "WFM (mono)", "FM", 200000);
-    row("gqrx", "WFM (stereo)", "FM", 200000);
-    row("gqrx", "WFM (oirt)", "FM", 200000);
+    row("gqrx", "WFM (mono)", "FM", 120000);
+    row("gqrx", "WFM (stereo)", "FM", 120000);
+    row("gqrx", "WFM (oirt)", "FM", 120000);
     row("gqrx", "Raw I/Q");
     row("gqrx", "Demod Off");
     row("gqrx", "FM");
     row("sdrsharp", "NFM", "FM", 12500);
-    row("sdrsharp", "WFM", "FM", 200000);
-    row("sdrsharp", "AM", "AM", 10000);
+    row("sdrsharp", "WFM", "FM", 120000);
+    row("sdrsharp", "AM", "AM", 6000);
     row("sdrsharp", "LSB", "LSB", 2700);
     row("sdrsharp", "USB", "USB", 2700);
     row("sdrsharp", "CW", "CW", 500);
     row("sdrsharp", "DSB");
     row("sdrsharp", "RAW");
     row("sdrpp", "0", "FM", 12500);
-    row("sdrpp", "1", "FM", 200000);
-    row("sdrpp", "2", "AM", 10000);
+    row("sdrpp", "1", "FM", 120000);
+    row("sdrpp", "2", "AM", 6000);
     row("sdrpp", "3");
     row("sdrpp", "4", "USB", 2700);
     row("sdrpp", "5", "CW", 500);
@@ -325,17 +325,17 @@ void TstFrequencyImport::modesAreTranslated_data()
     row("sdrpp", "-1");
     row("sdrpp", "0.5");
     row("sdrpp", "\"NFM\"");
-    row("chirp", "FM", "FM", 16000);
+    row("chirp", "FM", "FM", 15000);
     row("chirp", "NFM", "FM", 12500);
-    row("chirp", "WFM", "FM", 200000);
-    row("chirp", "AM", "AM", 10000);
+    row("chirp", "WFM", "FM", 120000);
+    row("chirp", "AM", "AM", 6000);
     row("chirp", "NAM", "AM", 6000);
     row("chirp", "USB", "USB", 2700);
     row("chirp", "LSB", "LSB", 2700);
     row("chirp", "CW", "CW", 500);
     row("chirp", "CWR", "CW", 500);
-    row("chirp", "NCW", "CW", 250);
-    row("chirp", "NCWR", "CW", 250);
+    row("chirp", "NCW", "CW", 300);
+    row("chirp", "NCWR", "CW", 300);
     for (const char* mode : {"DV", "DMR", "P25", "RTTY", "DIG", "PKT", "Auto"})
         row("chirp", mode);
 }
@@ -423,7 +423,7 @@ void TstFrequencyImport::bandwidths_data()
     QTest::addColumn<QString>("format");
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("becomes");
-    const QString wide = "7 MHz, AM, 10 kHz (usual)";
+    const QString wide = "7 MHz, AM, 6 kHz (usual)";
     QTest::newRow("gqrx, 8000") << "gqrx" << QByteArray("8000") << "7 MHz, AM, 8 kHz";
     QTest::newRow("gqrx, 0") << "gqrx" << QByteArray("0") << wide;
     QTest::newRow("gqrx, empty") << "gqrx" << QByteArray() << wide;
@@ -454,7 +454,7 @@ void TstFrequencyImport::columnsAreFoundByTheHeader()
 {
     const FrequencyImport import = Session::importFrequencies(
         "Mode,Comment,\"Frequency\",Location\nAM,\"a, \"\"b\"\"\",8.992,1\nUSB,,2.182,2\n", "chirp");
-    QCOMPARE(outcome(import), QStringList({"2 : 8.992 MHz, AM, 10 kHz (usual), named 8.992 MHz",
+    QCOMPARE(outcome(import), QStringList({"2 : 8.992 MHz, AM, 6 kHz (usual), named 8.992 MHz",
                                            "3 : 2.182 MHz, USB, 2.7 kHz (usual), named 2.182 MHz"}));
     QCOMPARE(import.leftOut, QStringList{"Comment"});
 }
