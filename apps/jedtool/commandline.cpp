@@ -13,6 +13,7 @@ namespace {
 const char* const INSTALLATION_OPTION = "installation";
 const char* const FORMAT_OPTION = "format";
 const QStringList FORMATS{QStringLiteral("text"), QStringLiteral("json")};
+const QLatin1String HTML("html");
 constexpr int NOUN_AND_VERB = 2;
 
 const Option COMMON_OPTIONS[] = {
@@ -202,8 +203,11 @@ QString parserFault(const QCommandLineParser& parser, const Verb& verb)
 // Null, or what is wrong with what was parsed.
 QString usageFault(const QCommandLineParser& parser, const Noun& noun, const Verb& verb)
 {
-    if (parser.isSet(FORMAT_OPTION) && !FORMATS.contains(parser.value(FORMAT_OPTION)))
-        return Texts::tr("the format is text or json, not \"%1\"").arg(parser.value(FORMAT_OPTION));
+    const QString format = parser.value(FORMAT_OPTION);
+    if (verb.hasHtml && parser.isSet(FORMAT_OPTION) && !FORMATS.contains(format) && format != HTML)
+        return Texts::tr("the format is text, json or html, not \"%1\"").arg(format);
+    if (!verb.hasHtml && parser.isSet(FORMAT_OPTION) && !FORMATS.contains(format))
+        return Texts::tr("the format is text or json, not \"%1\"").arg(format);
     const int count = parser.positionalArguments().size() - NOUN_AND_VERB;
     if (count < verb.minimumArguments || (verb.maximumArguments >= 0 && count > verb.maximumArguments))
         return Texts::tr("usage: %1 %2").arg(commandOf(noun, verb), Texts::tr(verb.synopsis)).trimmed();
@@ -225,6 +229,7 @@ ExitCode runVerb(const Noun& noun, const Verb& verb, const QStringList& argument
     invocation.arguments = parser.positionalArguments().mid(NOUN_AND_VERB);
     invocation.options = orderedOptions(parser, verb);
     invocation.isJson = parser.value(FORMAT_OPTION) == QLatin1String("json");
+    invocation.isHtml = parser.value(FORMAT_OPTION) == HTML;
     return chooseInstallation(parser.value(INSTALLATION_OPTION)) ? verb.run(invocation) : USAGE;
 }
 

@@ -39,6 +39,7 @@ public:
     QStringList arguments;                    ///< those behind the verb
     QVector<QPair<QString, QString>> options; ///< name and value of each given option, in order
     bool isJson = false;                      ///< --format json
+    bool isHtml = false;                      ///< --format html
 
     bool isSet(const QString& option) const;
     /// The last value given, or \p fallback.
@@ -57,6 +58,7 @@ struct Verb
     QVector<Option> options;
     ExitCode (*run)(const Invocation& invocation);
     QString (*appendix)(); ///< what the help says at the end; null: nothing
+    bool hasHtml = false;  ///< whether it knows the format html
 };
 
 /// One noun: a file of the program.

@@ -5,6 +5,7 @@
 #include <session/joboutline.h>
 #include <session/jobreport.h>
 #include <session/jobsession.h>
+#include <session/jobsummary.h>
 #include <session/pluginhost.h>
 #include <session/savefile.h>
 #include <session/scenariorunner.h>
@@ -28,8 +29,12 @@ const char* const NEW_DETAILS = QT_TRANSLATE_NOOP(
     "          jedtool job new --scenario morning.scenario\n"
     "Next:     jedtool job check job.xml\n");
 const char* const SHOW_DETAILS = QT_TRANSLATE_NOOP(
-    "jedtool", "Shows what a job file holds: the job, its sub-jobs and their parameter sets.\n\n"
-               "Example:  jedtool job show job.xml\n"
+    "jedtool", "Shows what a job file holds: the job, its sub-jobs and their parameter sets.\n"
+               "--format html gives the summary that the job editor shows and prints: problems, receivers, "
+               "frequencies, revisit\n"
+               "times of scans and all settings on one page.\n\n"
+               "Examples: jedtool job show job.xml\n"
+               "          jedtool job show job.xml --format html > job.html\n"
                "Next:     jedtool job check job.xml\n");
 const char* const CHECK_DETAILS =
     QT_TRANSLATE_NOOP("jedtool", "Reads a job file back and checks it: schema, loading and saving unchanged, "
@@ -197,8 +202,24 @@ QString scenarioHelp()
            Session::Scenario::verbsHelp();
 }
 
+// As the editor sees it: with the plug-ins, which know what is wrong.
+ExitCode showSummary(const Invocation& invocation)
+{
+    Session::PluginHost host;
+    host.load(pluginFolders(invocation));
+    Session::JobSession session(host.factories());
+    Session::Findings findings;
+    const bool isOpen = session.open(invocation.arguments.first(), &findings);
+    printFindings(findings);
+    if (isOpen)
+        print(Session::jobSummary(session, resources()));
+    return isOpen && findings.isEmpty() ? CLEAN : FINDINGS;
+}
+
 ExitCode show(const Invocation& invocation)
 {
+    if (invocation.isHtml)
+        return showSummary(invocation);
     Session::JobDocument document;
     Session::Findings findings;
     const bool isLoaded = document.load(invocation.arguments.first(), &findings);
@@ -261,9 +282,11 @@ Noun jobNoun()
                  SHOW_DETAILS,
                  1,
                  1,
-                 {},
+                 {{"plugin-dir", "DIR",
+                   QT_TRANSLATE_NOOP("jedtool", "a further folder with plug-ins, for html")}},
                  show,
-                 nullptr},
+                 nullptr,
+                 true},
                 {"check",
                  "FILE",
                  QT_TRANSLATE_NOOP("jedtool", "check a job file"),

@@ -27,8 +27,7 @@ QString line(int indent, const QString& label, const QString& value)
     const QString start = QString(indent, QLatin1Char(' ')) + label;
     if (value.isEmpty())
         return start + QLatin1Char('\n');
-    return start.leftJustified(std::max(VALUE_COLUMN, start.size() + 2)) + value.simplified() +
-           QLatin1Char('\n');
+    return start.leftJustified(std::max(VALUE_COLUMN, start.size() + 2)) + value + QLatin1Char('\n');
 }
 
 // "Tuner (TunerSettings)" for a parameter set, else the field's label.
@@ -50,6 +49,28 @@ QStringList readableTexts(const IRGObject& element, const Field& field, const QS
 QString itemName(const QString& list, int number)
 {
     return QStringLiteral("%1[%2]").arg(list, QString::number(number));
+}
+
+void appendRows(const IRGObject& element, int level, QVector<Session::OutlineRow>* rows)
+{
+    for (int i = 0; i < element.table().fieldCount; ++i) {
+        const Field& field = element.table().fields[i];
+        const QString name = QLatin1String(field.name);
+        if (!REPORTGENERATOR::isFieldSet(element, name))
+            continue;
+        if (!field.element) {
+            const QString value = readableTexts(element, field, name).join(QLatin1String(", "));
+            rows->append({level, title(field), value.simplified(), false, &field});
+            continue;
+        }
+        const int count = field.list ? REPORTGENERATOR::itemCount(element, name) : 1;
+        for (int item = 0; item < count; ++item) {
+            const QString number = QString::number(item + 1);
+            rows->append({level, field.list ? title(field) + QLatin1Char(' ') + number : title(field),
+                          QString(), true, &field});
+            appendRows(*childElement(element, field.list ? itemName(name, item) : name), level + 1, rows);
+        }
+    }
 }
 
 QJsonValue jsonValue(const Field& field, const QString& text)
@@ -76,27 +97,18 @@ QJsonValue jsonOfField(const IRGObject& element, const Field& field, const QStri
 
 namespace Session {
 
+QVector<OutlineRow> outlineRows(const IRGObject& element)
+{
+    QVector<OutlineRow> rows;
+    appendRows(element, 0, &rows);
+    return rows;
+}
+
 QString outlineText(const IRGObject& element, int indent)
 {
     QString result;
-    for (int i = 0; i < element.table().fieldCount; ++i) {
-        const Field& field = element.table().fields[i];
-        const QString name = QLatin1String(field.name);
-        if (!REPORTGENERATOR::isFieldSet(element, name))
-            continue;
-        if (!field.element) {
-            result +=
-                line(indent, title(field), readableTexts(element, field, name).join(QLatin1String(", ")));
-        } else if (!field.list) {
-            result += line(indent, title(field), QString()) +
-                      outlineText(*childElement(element, name), indent + INDENT);
-        }
-        for (int item = 0; field.element && field.list && item < REPORTGENERATOR::itemCount(element, name);
-             ++item) {
-            result += line(indent, title(field) + QLatin1Char(' ') + QString::number(item + 1), QString()) +
-                      outlineText(*childElement(element, itemName(name, item)), indent + INDENT);
-        }
-    }
+    for (const OutlineRow& row : outlineRows(element))
+        result += line(indent + row.level * INDENT, row.label, row.value);
     return result;
 }
 

@@ -115,6 +115,13 @@ QByteArray JobSession::draft()
     return draft.text();
 }
 
+bool JobSession::composeSubjob(int index, JobXml::Subjob* subjob, QList<Problem>* problems) const
+{
+    const TopLevel& top = topLevel(index);
+    *subjob = top.subjob;
+    return !top.setting || top.factory->writeSubjob(top.setting, *subjob, problems);
+}
+
 bool JobSession::isModified() const
 {
     return !m_undoStack.isClean();
@@ -374,12 +381,12 @@ QVector<JobXml::Subjob> JobSession::writtenSubjobs(bool* isComplete, Findings* f
 {
     flushEdits();
     QVector<JobXml::Subjob> result;
-    for (const TopLevel& top : m_topLevel) {
-        JobXml::Subjob subjob = top.subjob;
+    for (int i = 0; i < topLevelCount(); ++i) {
+        const Setting* const setting = topLevel(i).setting;
+        JobXml::Subjob subjob;
         QList<Problem> problems;
-        if (top.setting && !top.factory->writeSubjob(top.setting, subjob, &problems))
-            *isComplete = false;
-        appendFindings(problems, top.setting ? top.setting->getDisplayName() : QString(), findings);
+        *isComplete = composeSubjob(i, &subjob, &problems) && *isComplete;
+        appendFindings(problems, setting ? setting->getDisplayName() : QString(), findings);
         result.append(subjob);
     }
     return result;

@@ -4,6 +4,7 @@
 #include "jobdocument.h"
 
 #include <enjobtype.h>
+#include <problem.h>
 #include <QHash>
 #include <QObject>
 #include <QSet>
@@ -77,11 +78,17 @@ public:
     /// The job file as it stands, also where a plug-in says that a setting must not be saved as it is.
     QByteArray draft();
 
+    /// One of the sub-jobs as the file would hold it now.
+    /// \param problems  what a job file cannot hold is appended; may be null
+    /// \return false if its plug-in says that it must not be saved as it is
+    bool composeSubjob(int index, JobXml::Subjob* subjob, QList<JEDVEPLUGIN::Problem>* problems) const;
+
     bool isModified() const;
     /// A job that is only looked at: nothing of it can be changed, and there is nothing to undo meanwhile.
     void setReadOnly(bool readOnly);
     bool isReadOnly() const { return m_isReadOnly; }
     JobDocument& document() { return m_document; }
+    const JobDocument& document() const { return m_document; }
     JEDVE::enJOB_TYPE jobType() const;
     const QList<Factory*>& factories() const { return m_factories; }
     /// The factories that support the type of the job.

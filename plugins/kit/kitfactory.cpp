@@ -267,18 +267,8 @@ QList<ISubSetting*> KitFactory::topLevelSettings() const
 QList<ResourceUse> KitFactory::resourceUse() const
 {
     QList<ResourceUse> result;
-    for (ISubSetting* setting : subSettings) {
-        const JobXml::Subjob& header = static_cast<SubjobNode*>(setting)->header();
-        const QString type = typeOf(header);
-        result.append({setting, type, header.GetResourceDescription().GetBaseResource(), 1});
-        for (const JobXml::Detector& detector : header.GetDetector()) {
-            if (detector.GetDSCChannels() > 0 && !detector.GetBaseResource().isEmpty())
-                result.append({setting, type, detector.GetBaseResource(), detector.GetDSCChannels()});
-            for (const JobXml::AutonomousSCP& scp : detector.GetAutonomousSCP())
-                result.append({setting, JobXml::AutonomousSCP::TypeToName(scp.GetType()),
-                               scp.GetBaseResource(), scp.GetCount()});
-        }
-    }
+    for (ISubSetting* setting : subSettings)
+        result += resourcesOf(static_cast<SubjobNode*>(setting)->header(), setting);
     return result;
 }
 

@@ -58,6 +58,21 @@ void writeHeader(const JobXml::Subjob& header, JobXml::Subjob* subjob)
         subjob->SetDetector(header.GetDetector());
 }
 
+QList<JEDVEPLUGIN::ResourceUse> resourcesOf(const JobXml::Subjob& subjob, JEDVEPLUGIN::ISubSetting* setting)
+{
+    const JobXml::ResourceDescription& resource = subjob.GetResourceDescription();
+    const QString type = JobXml::ResourceDescription::TypeToName(resource.GetType());
+    QList<JEDVEPLUGIN::ResourceUse> result{{setting, type, resource.GetBaseResource(), 1}};
+    for (const JobXml::Detector& detector : subjob.GetDetector()) {
+        if (detector.GetDSCChannels() > 0 && !detector.GetBaseResource().isEmpty())
+            result.append({setting, type, detector.GetBaseResource(), detector.GetDSCChannels()});
+        for (const JobXml::AutonomousSCP& scp : detector.GetAutonomousSCP())
+            result.append({setting, JobXml::AutonomousSCP::TypeToName(scp.GetType()), scp.GetBaseResource(),
+                           scp.GetCount()});
+    }
+    return result;
+}
+
 QStringList startupModes(const QStringList& offered, JEDVE::enJOB_TYPE jobType)
 {
     return JEDVEPLUGIN::JEDCommonHelper::restrictedStartupModes(

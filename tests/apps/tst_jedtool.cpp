@@ -137,6 +137,8 @@ void TstJedtool::output_data()
                                           "job check",
                                           "resources list --formt json",
                                           "resources list --format xml",
+                                          "resources list --format html",
+                                          "job show jobs/search.xml --format pdf",
                                           "resources list --installation",
                                           "resources list --installation nowhere",
                                           "resources list --installation jobs",

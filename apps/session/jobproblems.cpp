@@ -1,0 +1,83 @@
+#include "jobproblems.h"
+
+#include "jobsession.h"
+
+#include <isubsetting.h>
+#include <kit/plugindeclaration.h>
+#include <QCoreApplication>
+#include <resourcedescription.h>
+
+using JEDVEPLUGIN::ISubSetting;
+using JEDVEPLUGIN::Problem;
+using Session::JobProblem;
+using Session::JobSession;
+
+namespace {
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Session::JobProblems)
+};
+
+void collect(ISubSetting* setting, int subjob, const QString& place, QList<JobProblem>* problems)
+{
+    const QString here = place.isEmpty() ? setting->getDisplayName()
+                                         : Texts::tr("%1, %2").arg(place, setting->getDisplayName());
+    for (const Problem& problem : setting->problems())
+        problems->append({subjob, setting, here, problem});
+    for (int i = 0; i < setting->childCount(); ++i)
+        collect(setting->child(i), subjob, here, problems);
+}
+
+JobProblem unclaimed(const JobSession::TopLevel& top, int subjob)
+{
+    return {subjob, nullptr, top.subjob.GetName(),
+            Problem{Problem::SEVERITY_WARNING, QString(), QString(), top.reason}};
+}
+
+JobProblem overuse(const Session::ReceiverUse& use, const JobSession& session)
+{
+    JobProblem result;
+    result.place = use.toText();
+    result.subjob = use.takers.last(); // The one that it was too much for.
+    result.setting = result.subjob < 0 ? nullptr : session.topLevel(result.subjob).setting;
+    result.problem = {Problem::SEVERITY_WARNING, QLatin1String(PluginKit::SUB_JOB),
+                      QStringLiteral("ResourceDescription.BaseResource"),
+                      Texts::tr("The job takes %1, the installation has %2")
+                          .arg(QString::number(use.occupied), QString::number(use.quantity))};
+    return result;
+}
+} // namespace
+
+namespace Session {
+
+QList<JobProblem> jobProblems(const JobSession& session, const JobComposer::Resources& resources)
+{
+    QList<JobProblem> result;
+    for (int i = 0; i < session.topLevelCount(); ++i) {
+        const JobSession::TopLevel& top = session.topLevel(i);
+        if (top.setting)
+            collect(top.setting, i, QString(), &result);
+        else
+            result.append(unclaimed(top, i));
+    }
+    for (const ReceiverUse& use : receiverUses(session, resources)) {
+        if (use.isOverused())
+            result.append(overuse(use, session));
+    }
+    return result;
+}
+
+QString severityText(Problem::Severity severity)
+{
+    switch (severity) {
+    case Problem::SEVERITY_NOTE:
+        return Texts::tr("Note");
+    case Problem::SEVERITY_WARNING:
+        return Texts::tr("Warning");
+    case Problem::SEVERITY_ERROR:
+        break;
+    }
+    return Texts::tr("Error");
+}
+
+} // namespace Session
