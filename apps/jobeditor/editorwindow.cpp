@@ -1,6 +1,7 @@
 #include "editorwindow.h"
 
 #include "editorpane.h"
+#include "fieldfocus.h"
 #include "problemspane.h"
 #include "recoverydialog.h"
 #include "resourcepane.h"
@@ -18,12 +19,10 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
-#include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTabWidget>
 #include <session/jobsession.h>
 
 using JEDVEPLUGIN::ISubSetting;
@@ -34,20 +33,6 @@ using Session::Recovery;
 
 namespace {
 constexpr int DOCK_HEIGHT = 150;
-
-// Brings a control into view: the tabs that it is on come to the front, what it lies in is scrolled.
-void reveal(QWidget* control)
-{
-    for (QWidget* parent = control->parentWidget(); parent; parent = parent->parentWidget()) {
-        auto* const tabs = qobject_cast<QTabWidget*>(parent);
-        for (int i = 0; tabs && i < tabs->count(); ++i) {
-            if (tabs->widget(i)->isAncestorOf(control))
-                tabs->setCurrentIndex(i);
-        }
-        if (auto* const area = qobject_cast<QScrollArea*>(parent))
-            area->ensureWidgetVisible(control);
-    }
-}
 } // namespace
 
 EditorWindow::EditorWindow(Session::PluginHost* host, JobSession* session)
@@ -182,8 +167,8 @@ void EditorWindow::buildDocks()
     };
     m_problems = new ProblemsPane(m_session, this);
     QDockWidget* const problems = add(QStringLiteral("problemsDock"), tr("Problems"), m_problems);
-    QDockWidget* const receivers =
-        add(QStringLiteral("resourcesDock"), tr("Receivers"), new ResourcePane(m_session, this));
+    auto* const resources = new ResourcePane(m_session, this);
+    QDockWidget* const receivers = add(QStringLiteral("resourcesDock"), tr("Receivers"), resources);
     QDockWidget* const trace = add(QStringLiteral("traceDock"), tr("Messages"), new TracePane(this));
     tabifyDockWidget(problems, receivers);
     tabifyDockWidget(receivers, trace);
@@ -192,8 +177,10 @@ void EditorWindow::buildDocks()
     tabifyDockWidget(receivers, rules);
     problems->raise();
     resizeDocks({problems}, {DOCK_HEIGHT}, Qt::Vertical);
-    connect(m_problems, &ProblemsPane::problemChosen, this, &EditorWindow::showProblem);
-    connect(m_rules, &RulesPane::fieldChosen, this, &EditorWindow::showProblem);
+    connect(m_problems, &ProblemsPane::problemChosen, this, &EditorWindow::showField);
+    connect(m_problems, &ProblemsPane::subjobChosen, m_tree, &TreePane::setCurrentSubjob);
+    connect(resources, &ResourcePane::subjobChosen, m_tree, &TreePane::setCurrentSubjob);
+    connect(m_rules, &RulesPane::fieldChosen, this, &EditorWindow::showField);
     connect(m_rules, &RulesPane::faultCountChanged, this, [rules](int count) {
         rules->setWindowTitle(count == 0 ? tr("Rules") : tr("Rules (%1 failed)").arg(count));
     });
@@ -242,16 +229,11 @@ void EditorWindow::watchFile(const QString& path)
         m_watcher->addPath(path);
 }
 
-void EditorWindow::showProblem(ISubSetting* setting, const QString& parameterSet, const QString& field)
+void EditorWindow::showField(ISubSetting* setting, const QString& parameterSet, const QString& field)
 {
     m_tree->setCurrentSetting(setting);
-    QWidget* const editor = setting->getWidget();
-    if (!editor)
-        return;
-    QWidget* const control = editor->findChild<QWidget*>(QStringLiteral("%1/%2").arg(parameterSet, field));
-    if (control)
-        reveal(control);
-    (control ? control : editor)->setFocus(Qt::OtherFocusReason);
+    if (QWidget* const editor = setting->getWidget())
+        focusField(editor, parameterSet, field);
 }
 
 void EditorWindow::showJob()

@@ -83,7 +83,7 @@ private:
     void removeCurrent();
     void moveCurrent(int step);
     void setReadOnly(bool readOnly);
-    void showProblem(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet, const QString& field);
+    void showField(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet, const QString& field);
 
     void showStart();
     void showOpened();

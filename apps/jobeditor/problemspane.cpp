@@ -1,19 +1,24 @@
 #include "problemspane.h"
 
 #include <isubsetting.h>
+#include <jobxml/settings.h>
 #include <QHeaderView>
 #include <QStyle>
 #include <QTimer>
+#include <reportlayer/fieldaccess.h>
+#include <resourcedescription.h>
+#include <session/jobproblems.h>
 #include <session/jobsession.h>
 #include <utility>
 
 using JEDVEPLUGIN::ISubSetting;
 using JEDVEPLUGIN::Problem;
+using Session::JobProblem;
 using Session::JobSession;
 
 namespace {
 enum Column { COLUMN_TEXT, COLUMN_SETTING, COLUMN_FIELD };
-enum Role { ROLE_SETTING = Qt::UserRole, ROLE_SET, ROLE_FIELD };
+enum Role { ROLE_SUBJOB = Qt::UserRole, ROLE_SETTING, ROLE_SET, ROLE_FIELD };
 
 QStyle::StandardPixmap pictureOf(Problem::Severity severity)
 {
@@ -26,6 +31,14 @@ QStyle::StandardPixmap pictureOf(Problem::Severity severity)
         break;
     }
     return QStyle::SP_MessageBoxCritical;
+}
+
+// The field by its label where the schema has one.
+QString fieldText(const QString& parameterSet, const QString& path)
+{
+    const REPORTGENERATOR::ParameterSet* const set = JobXml::findParameterSet(parameterSet);
+    const REPORTGENERATOR::Field* const field = set ? REPORTGENERATOR::findField(*set->table, path) : nullptr;
+    return field ? field->label() : path;
 }
 } // namespace
 
@@ -55,33 +68,28 @@ void ProblemsPane::refresh()
 {
     m_isRefreshPending = false;
     clear();
-    for (int i = 0; i < m_session->topLevelCount(); ++i) {
-        const JobSession::TopLevel& top = m_session->topLevel(i);
-        if (top.setting)
-            collect(top.setting, QString());
+    for (const JobProblem& found :
+         Session::jobProblems(*m_session, JEDVEPLUGIN::ResourceDescription::readAllResourceFiles())) {
+        const Problem& problem = found.problem;
+        auto* const item = new QTreeWidgetItem(
+            this, {problem.text, found.place, fieldText(problem.parameterSet, problem.field)});
+        item->setIcon(COLUMN_TEXT, style()->standardIcon(pictureOf(problem.severity)));
+        item->setToolTip(COLUMN_TEXT, problem.text);
+        item->setData(COLUMN_TEXT, Qt::AccessibleTextRole,
+                      tr("%1: %2").arg(Session::severityText(problem.severity), problem.text));
+        item->setData(COLUMN_TEXT, ROLE_SUBJOB, found.subjob);
+        item->setData(COLUMN_TEXT, ROLE_SETTING, QVariant::fromValue(found.setting));
+        item->setData(COLUMN_TEXT, ROLE_SET, problem.parameterSet);
+        item->setData(COLUMN_TEXT, ROLE_FIELD, problem.field);
     }
     emit countChanged(problemCount());
 }
 
-void ProblemsPane::collect(ISubSetting* setting, const QString& place)
-{
-    const QString here =
-        place.isEmpty() ? setting->getDisplayName() : tr("%1, %2").arg(place, setting->getDisplayName());
-    for (const Problem& problem : setting->problems()) {
-        auto* const item = new QTreeWidgetItem(this, {problem.text, here, problem.field});
-        item->setIcon(COLUMN_TEXT, style()->standardIcon(pictureOf(problem.severity)));
-        item->setToolTip(COLUMN_TEXT, problem.text);
-        item->setData(COLUMN_TEXT, ROLE_SETTING, QVariant::fromValue(setting));
-        item->setData(COLUMN_TEXT, ROLE_SET, problem.parameterSet);
-        item->setData(COLUMN_TEXT, ROLE_FIELD, problem.field);
-    }
-    for (int i = 0; i < setting->childCount(); ++i)
-        collect(setting->child(i), here);
-}
-
 void ProblemsPane::choose(QTreeWidgetItem* item)
 {
-    emit problemChosen(item->data(COLUMN_TEXT, ROLE_SETTING).value<ISubSetting*>(),
-                       item->data(COLUMN_TEXT, ROLE_SET).toString(),
-                       item->data(COLUMN_TEXT, ROLE_FIELD).toString());
+    if (auto* const setting = item->data(COLUMN_TEXT, ROLE_SETTING).value<ISubSetting*>())
+        emit problemChosen(setting, item->data(COLUMN_TEXT, ROLE_SET).toString(),
+                           item->data(COLUMN_TEXT, ROLE_FIELD).toString());
+    else
+        emit subjobChosen(item->data(COLUMN_TEXT, ROLE_SUBJOB).toInt());
 }

@@ -20,12 +20,13 @@ public:
 
 signals:
     void problemChosen(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet, const QString& field);
+    /// The same for a sub-job without a plug-in. \param subjob  position in the job
+    void subjobChosen(int subjob);
     void countChanged(int count);
 
 private:
     void refreshSoon();
     void refresh();
-    void collect(JEDVEPLUGIN::ISubSetting* setting, const QString& place);
     void choose(QTreeWidgetItem* item);
 
     Session::JobSession* m_session; // Not owned.

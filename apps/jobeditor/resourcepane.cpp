@@ -1,32 +1,43 @@
 #include "resourcepane.h"
 
-#include <jedsubsettingfactory.h>
+#include <algorithm>
+#include <isubsetting.h>
 #include <QHeaderView>
-#include <QMap>
-#include <QPair>
 #include <QStyle>
 #include <QTimer>
 #include <resourcedescription.h>
 #include <session/jobsession.h>
+#include <session/receiveruse.h>
 #include <utility>
 
-using JEDVEPLUGIN::ResourceDescription;
-using JEDVEPLUGIN::ResourceUse;
 using Session::JobSession;
+using Session::ReceiverUse;
 
 namespace {
-enum Column { COLUMN_RECEIVER, COLUMN_TYPE, COLUMN_TAKEN, COLUMN_LEFT };
+enum Column { COLUMN_RECEIVER, COLUMN_TYPE, COLUMN_TAKEN, COLUMN_LEFT, COLUMN_TAKERS };
+constexpr int ROLE_SUBJOB = Qt::UserRole;
 
-using Receiver = QPair<QString, QString>; // Type and base resource.
-
-QMap<Receiver, qint64> takenReceivers(const JobSession& session)
+QString leftText(const ReceiverUse& use)
 {
-    QMap<Receiver, qint64> result;
-    for (const JobSession::Factory* factory : session.activeFactories()) {
-        for (const ResourceUse& use : factory->resourceUse())
-            result[{use.type, use.baseResource}] += use.count;
+    if (!use.isOffered)
+        return ResourcePane::tr("not offered by the installation");
+    return use.left < 0 ? ResourcePane::tr("%1 too many").arg(-use.left) : QString::number(use.left);
+}
+
+QString takenText(const ReceiverUse& use)
+{
+    return use.isOffered ? ResourcePane::tr("%1 of %2").arg(use.taken).arg(use.quantity)
+                         : QString::number(use.taken);
+}
+
+QStringList namesOf(const QVector<int>& subjobs, const JobSession& session)
+{
+    QStringList names;
+    for (const int subjob : subjobs) {
+        const JobSession::TopLevel& top = session.topLevel(subjob);
+        names.append(top.setting ? top.setting->getDisplayName() : top.subjob.GetName());
     }
-    return result;
+    return names;
 }
 } // namespace
 
@@ -37,8 +48,9 @@ ResourcePane::ResourcePane(JobSession* session, QWidget* parent)
     setObjectName(QStringLiteral("resources"));
     setAccessibleName(tr("Receivers that the job takes"));
     setRootIsDecorated(false);
-    setHeaderLabels({tr("Receiver"), tr("Type"), tr("Taken"), tr("Left")});
+    setHeaderLabels({tr("Receiver"), tr("Type"), tr("Taken"), tr("Left"), tr("Sub-jobs")});
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    connect(this, &QTreeWidget::itemActivated, this, &ResourcePane::choose);
     connect(session, &JobSession::jobReplaced, this, &ResourcePane::refreshSoon);
     connect(session, &JobSession::structureChanged, this, &ResourcePane::refreshSoon);
     connect(session, &JobSession::settingChanged, this, &ResourcePane::refreshSoon);
@@ -54,24 +66,26 @@ void ResourcePane::refresh()
 {
     m_isRefreshPending = false;
     clear();
-    QMap<Receiver, qint64> taken = takenReceivers(*m_session);
-    for (const auto& description : ResourceDescription::readAllResourceFiles()) {
-        const auto use = taken.find({description->getType(), description->getBaseResource()});
-        if (use == taken.end())
-            continue;
-        const qint64 left = qint64(description->getQuantity()) - *use;
+    QVector<ReceiverUse> uses =
+        Session::receiverUses(*m_session, JEDVEPLUGIN::ResourceDescription::readAllResourceFiles());
+    std::stable_partition(uses.begin(), uses.end(),
+                          [](const ReceiverUse& use) { return !use.takers.isEmpty(); });
+    for (const ReceiverUse& use : qAsConst(uses)) {
+        const QStringList takers = namesOf(use.takers, *m_session);
         auto* const item =
-            new QTreeWidgetItem(this, {description->getName(), description->getType(),
-                                       tr("%1 of %2").arg(*use).arg(description->getQuantity()),
-                                       left < 0 ? tr("%1 too many").arg(-left) : QString::number(left)});
-        if (left < 0)
+            new QTreeWidgetItem(this, {use.name.isEmpty() ? use.baseResource : use.name, use.type,
+                                       takenText(use), leftText(use), takers.join(QLatin1String(", "))});
+        item->setToolTip(COLUMN_RECEIVER, use.toText());
+        item->setToolTip(COLUMN_TAKERS, takers.join(QLatin1Char('\n')));
+        item->setData(COLUMN_RECEIVER, ROLE_SUBJOB, use.takers.isEmpty() ? -1 : use.takers.last());
+        if (!use.isOffered || use.left < 0)
             item->setIcon(COLUMN_LEFT, style()->standardIcon(QStyle::SP_MessageBoxWarning));
-        taken.erase(use);
     }
-    for (auto missing = taken.cbegin(); missing != taken.cend(); ++missing) {
-        auto* const item =
-            new QTreeWidgetItem(this, {missing.key().second, missing.key().first, QString::number(*missing),
-                                       tr("not offered by the installation")});
-        item->setIcon(COLUMN_LEFT, style()->standardIcon(QStyle::SP_MessageBoxWarning));
-    }
+}
+
+void ResourcePane::choose(QTreeWidgetItem* item)
+{
+    const int subjob = item->data(COLUMN_RECEIVER, ROLE_SUBJOB).toInt();
+    if (subjob >= 0)
+        emit subjobChosen(subjob);
 }

@@ -68,10 +68,12 @@ int TreePane::currentUnclaimed() const
 
 void TreePane::setCurrentSetting(ISubSetting* setting)
 {
-    const QModelIndex index = m_model->indexOf(setting);
-    if (index.isValid() && !m_filter->mapFromSource(index).isValid())
-        m_filterEdit->clear();
-    select(index);
+    select(m_model->indexOf(setting));
+}
+
+void TreePane::setCurrentSubjob(int subjob)
+{
+    select(m_model->index(subjob, 0));
 }
 
 void TreePane::focusFilter()
@@ -93,6 +95,8 @@ void TreePane::showRowMenu(const QPoint& position)
 
 void TreePane::select(const QModelIndex& sourceIndex)
 {
+    if (sourceIndex.isValid() && !m_filter->mapFromSource(sourceIndex).isValid())
+        m_filterEdit->clear();
     const QModelIndex index = m_filter->mapFromSource(sourceIndex);
     m_view->setCurrentIndex(index);
     m_view->expand(index.parent());

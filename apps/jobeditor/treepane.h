@@ -27,6 +27,8 @@ public:
     /// Position of the selected top-level row that has no setting, else -1.
     int currentUnclaimed() const;
     void setCurrentSetting(JEDVEPLUGIN::ISubSetting* setting);
+    /// The sub-job at that position, also one without a plug-in.
+    void setCurrentSubjob(int subjob);
     /// What is shown for a right click or the menu key on a row. Not owned.
     void setRowMenu(QMenu* menu) { m_rowMenu = menu; }
     void focusFilter();

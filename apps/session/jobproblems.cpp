@@ -37,13 +37,14 @@ JobProblem unclaimed(const JobSession::TopLevel& top, int subjob)
 JobProblem overuse(const Session::ReceiverUse& use, const JobSession& session)
 {
     JobProblem result;
-    result.place = use.toText();
     result.subjob = use.takers.last(); // The one that it was too much for.
-    result.setting = result.subjob < 0 ? nullptr : session.topLevel(result.subjob).setting;
+    const JobSession::TopLevel& top = session.topLevel(result.subjob);
+    result.setting = top.setting;
+    result.place = top.setting ? top.setting->getDisplayName() : top.subjob.GetName();
     result.problem = {Problem::SEVERITY_WARNING, QLatin1String(PluginKit::SUB_JOB),
                       QStringLiteral("ResourceDescription.BaseResource"),
-                      Texts::tr("The job takes %1, the installation has %2")
-                          .arg(QString::number(use.occupied), QString::number(use.quantity))};
+                      Texts::tr("The job takes %1 of %2, the installation has %3")
+                          .arg(QString::number(use.occupied), use.toText(), QString::number(use.quantity))};
     return result;
 }
 } // namespace

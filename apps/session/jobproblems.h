@@ -13,7 +13,7 @@ namespace Session {
 /// Something that is wrong with a job, and where.
 struct JobProblem
 {
-    int subjob = -1;                             ///< position in the job
+    int subjob = 0;                              ///< position in the job
     JEDVEPLUGIN::ISubSetting* setting = nullptr; ///< null for a sub-job without a plug-in. Not owned.
     QString place;                               ///< the names of the sub-job and of the settings down to it
     JEDVEPLUGIN::Problem problem;

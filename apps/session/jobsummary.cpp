@@ -150,8 +150,7 @@ void writeProblems(const QList<JobProblem>& problems, Page* page)
     page->beginTable({Texts::tr("Weight"), Texts::tr("Where"), Texts::tr("What")});
     for (const JobProblem& found : problems)
         page->row({Session::severityText(found.problem.severity),
-                   found.subjob < 0 ? found.place
-                                    : Texts::tr("%1. %2").arg(QString::number(found.subjob + 1), found.place),
+                   Texts::tr("%1. %2").arg(QString::number(found.subjob + 1), found.place),
                    found.problem.text});
     page->endTable();
 }

@@ -1,0 +1,249 @@
+#include <support/testmain.h>
+
+#include <isubsetting.h>
+#include <jedsubsettingfactory.h>
+#include <jobeditor/editorwindow.h>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTabWidget>
+#include <QTreeView>
+#include <QTreeWidget>
+#include <session/fieldplaces.h>
+#include <session/installation.h>
+#include <session/jobsession.h>
+#include <session/pluginhost.h>
+#include <session/savefile.h>
+
+using JEDVEPLUGIN::ISubSetting;
+using Session::JobSession;
+using Session::PluginHost;
+
+// What an operator sees of a job as a whole: problems, receivers, frequencies, summary.
+
+namespace {
+const QString EXAMPLES = JED_SOURCE_DIR "/installation/Jobs/";
+
+QString rowText(const QTreeWidgetItem* item)
+{
+    QStringList texts;
+    for (int column = 0; column < item->columnCount(); ++column)
+        texts.append(item->text(column));
+    return texts.join('|');
+}
+} // namespace
+
+class TstEditorOverview : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void problemsLeadToTheField_data();
+    void problemsLeadToTheField();
+    void unclaimedSubjobsAreProblems();
+    void receiversAreCounted();
+    void tooManyReceiversAreAProblem();
+    void receiversLeadToTheirSubjob();
+
+private:
+    bool open(const QString& path);
+    QTreeWidget* list(const QString& name) { return m_window->findChild<QTreeWidget*>(name); }
+    QStringList rows(const QString& name);
+    QString currentRow();
+    // A job with a sub-job that no plug-in claims; its path.
+    QString strangeJob();
+
+    PluginHost m_host;
+    std::unique_ptr<JobSession> m_session;
+    std::unique_ptr<EditorWindow> m_window;
+    QTemporaryDir m_folder;
+};
+
+void TstEditorOverview::initTestCase()
+{
+    QLoggingCategory::setFilterRules("jobeditorve.trace=false");
+    QCoreApplication::setOrganizationName("jobeditorve-tests");
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
+    QString error;
+    QVERIFY2(Session::chooseInstallation(JED_SOURCE_DIR "/installation", QString(), &error),
+             qPrintable(error));
+    m_host.load(PluginHost::defaultFolders());
+}
+
+void TstEditorOverview::init()
+{
+    m_session = std::make_unique<JobSession>(m_host.factories());
+    m_window = std::make_unique<EditorWindow>(&m_host, m_session.get());
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void TstEditorOverview::cleanup()
+{
+    m_window.reset();
+    m_session.reset();
+}
+
+bool TstEditorOverview::open(const QString& path)
+{
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, this, [] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            box->button(QMessageBox::Ok)->click();
+    });
+    closer.start(10);
+    const bool isOpen = m_window->openFile(path);
+    QCoreApplication::processEvents();
+    return isOpen;
+}
+
+QStringList TstEditorOverview::rows(const QString& name)
+{
+    QCoreApplication::processEvents();
+    QStringList result;
+    for (int i = 0; i < list(name)->topLevelItemCount(); ++i)
+        result.append(rowText(list(name)->topLevelItem(i)));
+    return result;
+}
+
+QString TstEditorOverview::currentRow()
+{
+    return m_window->findChild<QTreeView*>("settingTree")->currentIndex().data().toString();
+}
+
+QString TstEditorOverview::strangeJob()
+{
+    QByteArray job;
+    Session::readFile(EXAMPLES + "search.xml", &job, nullptr);
+    const QString file = m_folder.filePath("stranger.xml");
+    Session::saveFile(file,
+                      job.replace("<Type>HT720</Type>\n      <BaseResource>VUHF-3<",
+                                  "<Type>SignalRecorder</Type>\n      <BaseResource>VUHF-3<"),
+                      nullptr);
+    return file;
+}
+
+void TstEditorOverview::problemsLeadToTheField_data()
+{
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("problem");
+    QTest::addColumn<QString>("control");
+    QTest::newRow("field of a group") << "ScanSettings"
+                                      << "<StopFrequency>136975000<"
+                                      << "<StopFrequency>117000000<"
+                                      << "The scan ends before it begins|Airband, Scan|To"
+                                      << "ScanSettings/Range.StopFrequency";
+    QTest::newRow("field on another tab") << "TunerSettings"
+                                          << "<CenterFrequency>127000000<"
+                                          << "<CenterFrequency>999000000<"
+                                          << "%1|Airband, Tuner|Frequency"
+                                          << "TunerSettings/CenterFrequency";
+    QTest::newRow("field of the sub-job") << "SubJob"
+                                          << "<StartupMode>Automatic<"
+                                          << "<StartupMode>OnRequest<"
+                                          << "The receiver does not offer the start-up mode \"%1\" for this "
+                                             "type of job|Airband|StartupMode"
+                                          << "subJobWidget_StartupModes";
+}
+
+void TstEditorOverview::problemsLeadToTheField()
+{
+    QFETCH(QString, set);
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    QFETCH(QString, problem);
+    QVERIFY(open(EXAMPLES + "search.xml"));
+    QCOMPARE(rows("problems"), QStringList());
+    ISubSetting* const setting = Session::findCarrier(m_session->settingAt({0}), set);
+    QVERIFY(setting);
+    QVERIFY(m_session->setParameterSet(setting, set, setting->parameterSetText(set).replace(before, after)));
+    QCOMPARE(rows("problems").size(), 1);
+    const QString told = rows("problems").first();
+    QVERIFY2(told.startsWith(problem.section("%1", 0, 0)) && told.endsWith(problem.section("%1", -1)),
+             qPrintable(told));
+    m_window->setCurrentSetting(m_session->settingAt({1}));
+    for (QTabWidget* tabs : setting->getWidget()->findChildren<QTabWidget*>())
+        tabs->setCurrentIndex(tabs->count() - 1);
+    QTreeWidget* const problems = list("problems");
+    problems->setCurrentItem(problems->topLevelItem(0));
+    problems->setFocus();
+    QTest::keyClick(problems, Qt::Key_Return);
+    QCOMPARE(currentRow(), setting->getDisplayName());
+    QTRY_VERIFY(QApplication::focusWidget() != problems);
+    QTEST(QApplication::focusWidget()->objectName(), "control");
+    QVERIFY(QApplication::focusWidget()->isVisible());
+}
+
+void TstEditorOverview::unclaimedSubjobsAreProblems()
+{
+    QVERIFY(open(strangeJob()));
+    QVERIFY(!m_session->topLevel(1).setting);
+    const QStringList told = rows("problems");
+    QCOMPARE(told, QStringList("No plug-in for this kind of job claims it.|ISM 433 MHz|"));
+    list("problems")->setCurrentItem(list("problems")->topLevelItem(0));
+    QTest::keyClick(list("problems"), Qt::Key_Return);
+    QCOMPARE(currentRow(), m_session->topLevel(1).subjob.GetName());
+}
+
+void TstEditorOverview::receiversAreCounted()
+{
+    QVERIFY(open(EXAMPLES + "search.xml"));
+    const QStringList all = rows("resources");
+    // A receiver takes from the rack that it is in, and the rack from its parts.
+    QVERIFY2(all.contains("Airband scan|TRV9KScanSettings|1 of 2|1|Airband"), qPrintable(all.join('\n')));
+    QVERIFY(all.contains("Marine and land mobile scan|TRV9KScanSettings|0 of 2|2|"));
+    QVERIFY(all.contains("V/UHF scan rack|TRV9KScanSettings|0 of 3|2|Airband"));
+    QVERIFY(all.contains("Short-range devices|HT720|2 of 3|1|ISM 433 MHz"));
+    QVERIFY(all.contains("V/UHF channel receivers|HT720|2 of 24|22|ISM 433 MHz"));
+    QVERIFY(all.contains("Measurement receiver|MeasurementReceiver|0 of 1|1|"));
+    QCOMPARE(all.size(), 18);
+    // What a sub-job takes that no plug-in knows counts, too, and is told.
+    QVERIFY(open(strangeJob()));
+    QVERIFY(
+        rows("resources").contains("VUHF-3|SignalRecorder|1|not offered by the installation|ISM 433 MHz"));
+}
+
+void TstEditorOverview::tooManyReceiversAreAProblem()
+{
+    QVERIFY(open(EXAMPLES + "search.xml"));
+    for (int i = 0; i < 2; ++i)
+        QVERIFY(m_session->duplicate(m_session->settingAt({0})));
+    const QString last = m_session->settingAt({m_session->topLevelCount() - 1})->getDisplayName();
+    QVERIFY2(rows("resources").join('\n').contains("Airband scan|TRV9KScanSettings|3 of 2|1 too many|"),
+             qPrintable(rows("resources").join('\n')));
+    QCOMPARE(
+        rows("problems"),
+        QStringList("The job takes 3 of Airband scan (TRV9KScanSettings/VUHF-1), the installation has 2|" +
+                    last + "|ResourceDescription.BaseResource"));
+    list("problems")->setCurrentItem(list("problems")->topLevelItem(0));
+    QTest::keyClick(list("problems"), Qt::Key_Return);
+    QCOMPARE(currentRow(), last);
+    m_session->undoStack()->undo();
+    QCOMPARE(rows("problems"), QStringList());
+}
+
+void TstEditorOverview::receiversLeadToTheirSubjob()
+{
+    QVERIFY(open(EXAMPLES + "search.xml"));
+    QTreeWidget* const receivers = list("resources");
+    receivers->parentWidget()->raise();
+    rows("resources");
+    const QList<QTreeWidgetItem*> found = receivers->findItems("V/UHF channel receivers", Qt::MatchExactly);
+    QCOMPARE(found.size(), 1);
+    receivers->setCurrentItem(found.first());
+    QTest::keyClick(receivers, Qt::Key_Return);
+    QCOMPARE(currentRow(), QString("ISM 433 MHz"));
+    receivers->setCurrentItem(receivers->findItems("Measurement receiver", Qt::MatchExactly).value(0));
+    QTest::keyClick(receivers, Qt::Key_Return);
+    QCOMPARE(currentRow(), QString("ISM 433 MHz"));
+}
+
+JED_TEST_MAIN(TstEditorOverview)
+#include "tst_editoroverview.moc"
