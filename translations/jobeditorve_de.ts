@@ -4164,8 +4164,8 @@ Anlage: %3</translation>
         <translation>Feld</translation>
     </message>
     <message>
-        <source>%1, %2</source>
-        <translation>%1, %2</translation>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -4334,6 +4334,10 @@ Anlage: %3</translation>
     <message>
         <source>not offered by the installation</source>
         <translation>von der Anlage nicht angeboten</translation>
+    </message>
+    <message>
+        <source>Sub-jobs</source>
+        <translation>Teilaufträge</translation>
     </message>
 </context>
 <context>
@@ -4662,6 +4666,25 @@ Anlage: %3</translation>
     </message>
 </context>
 <context>
+    <name>Session::FrequencyUse</name>
+    <message>
+        <source>%1: the scan goes through stored channels, which the job does not name</source>
+        <translation>%1: der Suchlauf geht durch gespeicherte Kanäle, die der Auftrag nicht nennt</translation>
+    </message>
+    <message>
+        <source>%1: the range from %2 to %3 ends before it begins</source>
+        <translation>%1: der Bereich von %2 bis %3 endet, bevor er beginnt</translation>
+    </message>
+    <message>
+        <source>The settings name no frequencies</source>
+        <translation>Die Einstellungen nennen keine Frequenzen</translation>
+    </message>
+    <message>
+        <source>What the receiver covers cannot be told: its values have no limits</source>
+        <translation>Was der Empfänger abdeckt, lässt sich nicht sagen: Seine Werte haben keine Grenzen</translation>
+    </message>
+</context>
+<context>
     <name>Session::HeadlessDialogs</name>
     <message>
         <source>closed</source>
@@ -4792,6 +4815,29 @@ beantwortet: %3
     </message>
 </context>
 <context>
+    <name>Session::JobProblems</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>The job takes %1 of %2, the installation has %3</source>
+        <translation>Der Auftrag belegt %1 von %2, die Anlage hat %3</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
     <name>Session::JobReport</name>
     <message>
         <source>sub-job %1, %2</source>
@@ -4894,6 +4940,154 @@ beantwortet: %3
     </message>
 </context>
 <context>
+    <name>Session::JobSummary</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>the language of this page, as HTML names it</comment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>Sub-jobs</source>
+        <translation>Teilaufträge</translation>
+    </message>
+    <message>
+        <source>All times of day are UTC.</source>
+        <translation>Alle Uhrzeiten sind in UTC.</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>None were found.</source>
+        <translation>Es wurden keine gefunden.</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Gewicht</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Wo</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Belegt</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>Vorhanden</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>not offered</source>
+        <translation>nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>%1 too many</source>
+        <translation>%1 zu viel</translation>
+    </message>
+    <message>
+        <source>Frequencies</source>
+        <translation>Frequenzen</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>The receiver covers %1</source>
+        <translation>Der Empfänger deckt %1 ab</translation>
+    </message>
+    <message>
+        <source>Revisit times (estimates)</source>
+        <translation>Wiederkehrzeiten (geschätzt)</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>etwa %1</translation>
+    </message>
+    <message>
+        <source>cannot be told</source>
+        <translation>lässt sich nicht sagen</translation>
+    </message>
+    <message>
+        <source>A revisit time is an estimate for a range in which every frequency is free: for each step the settling time of the tuner and the longer one of dwell time and measurement time, then the pause.</source>
+        <translation>Eine Wiederkehrzeit ist eine Schätzung für einen Bereich, in dem jede Frequenz frei ist: für jeden Schritt die Einschwingzeit des Tuners und die längere von Verweilzeit und Messzeit, danach die Pause.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, which the installation does not offer</source>
+        <translation>%1, den die Anlage nicht hat</translation>
+    </message>
+    <message>
+        <source>Sub-job</source>
+        <translation>Teilauftrag</translation>
+    </message>
+    <message>
+        <source>Receiver&apos;s name in the job</source>
+        <translation>Name des Empfängers im Auftrag</translation>
+    </message>
+    <message>
+        <source>Record location</source>
+        <translation>Aufzeichnungsort</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Plug-in</translation>
+    </message>
+    <message>
+        <source>none: %1</source>
+        <translation>keines: %1</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>The job has no sub-jobs.</source>
+        <translation>Der Auftrag hat keine Teilaufträge.</translation>
+    </message>
+</context>
+<context>
     <name>Session::PluginHost</name>
     <message>
         <source>plug-in</source>
@@ -4980,6 +5174,61 @@ beantwortet: %3
     <message>
         <source>the connectable resource &quot;%1&quot; is not there</source>
         <translation>die verbindbare Ressource „%1“ ist nicht vorhanden</translation>
+    </message>
+</context>
+<context>
+    <name>Session::RevisitTime</name>
+    <message>
+        <source>The scan stays on an occupied frequency until the operator lets it go on</source>
+        <translation>Der Suchlauf bleibt auf einer belegten Frequenz, bis der Bediener ihn weiterlaufen lässt</translation>
+    </message>
+    <message>
+        <source>The scan stays on an occupied frequency until the signal is lost</source>
+        <translation>Der Suchlauf bleibt auf einer belegten Frequenz, bis das Signal verschwindet</translation>
+    </message>
+    <message>
+        <source>Each occupied frequency adds up to %1</source>
+        <translation>Jede belegte Frequenz kostet bis zu %1 mehr</translation>
+    </message>
+    <message>
+        <source>%1 steps of %2</source>
+        <translation>%1 Schritte zu %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>The job does not name the stored channels</source>
+        <translation>Der Auftrag nennt die gespeicherten Kanäle nicht</translation>
+    </message>
+    <message>
+        <source>The scan ends before it begins</source>
+        <translation>Der Suchlauf endet, bevor er beginnt</translation>
+    </message>
+    <message>
+        <source>The scan has no step width</source>
+        <translation>Der Suchlauf hat keine Schrittweite</translation>
+    </message>
+    <message>
+        <source>The bandwidth of the tuner is not known</source>
+        <translation>Die Bandbreite des Tuners ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>At the ends of the range up to twice as long, since the direction changes</source>
+        <translation>An den Enden des Bereichs bis zu doppelt so lang, weil die Richtung wechselt</translation>
+    </message>
+    <message>
+        <source>The scan runs once</source>
+        <translation>Der Suchlauf läuft einmal</translation>
+    </message>
+    <message>
+        <source>No entry of the list is used</source>
+        <translation>Kein Eintrag der Liste wird verwendet</translation>
+    </message>
+    <message>
+        <source>%1 steps</source>
+        <translation>%1 Schritte</translation>
     </message>
 </context>
 <context>
