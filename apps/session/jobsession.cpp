@@ -554,6 +554,8 @@ bool JobSession::renameAt(const SettingPath& path, const QString& name)
     Setting* const setting = settingAt(path);
     if (!setting || !setting->setDisplayName(name))
         return false;
+    // A plug-in may keep the name in a parameter set.
+    remember(setting);
     emit settingChanged(setting);
     return true;
 }
