@@ -29,6 +29,17 @@ bool rest(QWidget& widget, const QPoint& place = PLACE)
     return QApplication::sendEvent(&widget, &event);
 }
 
+/// Where the tool tip stands that a mouse resting there brings up; (-1, -1) for none.
+QPoint shownAt(QWidget& field, const QPoint& place)
+{
+    rest(field, place);
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->inherits("QTipLabel") && widget->isVisible())
+            return widget->pos();
+    }
+    return QPoint(-1, -1);
+}
+
 /// Counts the tool tip events that get through to the line edit.
 class CountingEdit : public QLineEdit
 {
@@ -62,6 +73,8 @@ private slots:
     void emptyToolTipTakesAwayTheOneBefore();
     void toolTipIsConsumed();
     void toolTipComesAtThePlace();
+    void sameTextOfAnotherFieldMovesTheToolTip();
+    void blanksOfAMaskAreNotShown();
     void otherEventsPass_data();
     void otherEventsPass();
     void otherWidgetsPass();
@@ -192,19 +205,31 @@ void TstLineEditTooltipAdapter::toolTipIsConsumed()
 
 void TstLineEditTooltipAdapter::toolTipComesAtThePlace()
 {
-    const auto shownAt = [this](const QPoint& place) {
-        rest(*m_edit, place);
-        for (const QWidget* widget : QApplication::topLevelWidgets()) {
-            if (widget->inherits("QTipLabel") && widget->isVisible())
-                return widget->pos();
-        }
-        return QPoint(-1, -1);
-    };
-    const QPoint first = shownAt(QPoint(20, 40));
+    const QPoint first = shownAt(*m_edit, QPoint(20, 40));
     QVERIFY(first != QPoint(-1, -1));
     QToolTip::hideText();
     QTRY_VERIFY(!QToolTip::isVisible());
-    QCOMPARE(shownAt(QPoint(70, 140)) - first, QPoint(50, 100));
+    QCOMPARE(shownAt(*m_edit, QPoint(70, 140)) - first, QPoint(50, 100));
+}
+
+void TstLineEditTooltipAdapter::sameTextOfAnotherFieldMovesTheToolTip()
+{
+    CountingEdit other(m_edit->text());
+    other.resize(m_edit->size());
+    other.show();
+    m_adapter->addLineEdit(&other);
+    const QPoint first = shownAt(*m_edit, QPoint(20, 40));
+    QCOMPARE(shownAt(other, QPoint(70, 140)) - first, QPoint(50, 100));
+}
+
+void TstLineEditTooltipAdapter::blanksOfAMaskAreNotShown()
+{
+    m_edit->setInputMask("000.000 MHz, the calling frequency;_");
+    m_edit->setText("145.5");
+    m_edit->resize(10, 30);
+    QVERIFY(m_edit->displayText() != m_edit->text());
+    rest(*m_edit);
+    QCOMPARE(QToolTip::text(), m_edit->text());
 }
 
 void TstLineEditTooltipAdapter::otherEventsPass_data()
