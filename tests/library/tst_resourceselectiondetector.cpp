@@ -111,6 +111,7 @@ private slots:
     void detectorBoxHidesItsType();
     void typeWithoutDetectorsAndBack_data();
     void typeWithoutDetectorsAndBack();
+    void typeWithoutDetectorsHasNoBaseResources();
     void secondTypeWithoutDetectorsForgetsTheBox();
     void otherTypeWithDetectorsBeginsWithThePreset();
     void channelWordingFollowsTheDetectorType();
@@ -270,6 +271,19 @@ void TstResourceSelectionDetector::typeWithoutDetectorsAndBack()
     QCOMPARE(isVisible("DSCChannels"), checked);
     QCOMPARE(isVisible("DetectorBaseResource"), checked);
     QCOMPARE(entries("DetectorBaseResource"), QString("[X] disabled"));
+}
+
+void TstResourceSelectionDetector::typeWithoutDetectorsHasNoBaseResources()
+{
+    for (const bool preset : {true, false}) {
+        open({receiver(HT720, "A", "", "C1 C2"), receiver(RECORDER, "B", "", "C3")},
+             {true, preset, false, {}});
+        QCOMPARE(combo("DetectorBaseResource")->count(), 2);
+        combo("TunerType")->setCurrentText(RECORDER);
+        QCOMPARE(combo("DetectorBaseResource")->count(), 0);
+        combo("TunerType")->setCurrentText(HT720);
+        QCOMPARE(entries("DetectorBaseResource"), QString("[C1], C2"));
+    }
 }
 
 void TstResourceSelectionDetector::secondTypeWithoutDetectorsForgetsTheBox()

@@ -41,6 +41,7 @@ private slots:
     void laterDescriptionReplacesAnEarlierOne();
     void nothingToChooseFrom();
     void typeFillsBaseResources();
+    void unknownBaseResourceSelectsNothing();
     void baseResourcesAnnounceNothingWhileTheyAreFilled();
     void recordLocations_data();
     void recordLocations();
@@ -289,6 +290,18 @@ void TstResourceSelectionDialog::nothingToChooseFrom()
     QVERIFY(!m_dialog->getSelectedDescription());
     m_dialog->accept();
     QCOMPARE(results(), QString("none|||EnergyDetector|0 DSC|50%|||"));
+}
+
+void TstResourceSelectionDialog::unknownBaseResourceSelectsNothing()
+{
+    open({receiver("HT720", "a", "Manual Timed")}, {false, false, false, {}});
+    QVERIFY(isVisible("StartupModes"));
+    QVERIFY(QMetaObject::invokeMethod(m_dialog.get(), "baseResourceChanged", Q_ARG(QString, "z")));
+    QVERIFY(!m_dialog->getSelectedDescription());
+    QCOMPARE(m_dialog->getSelectedStartupMode(), QString());
+    QCOMPARE(find<QLineEdit>("TunerName")->text(), QString());
+    QCOMPARE(listed(), QString());
+    QCOMPARE(visibleFields(), QString("BaseResource RecordLocation TunerName TunerType"));
 }
 
 void TstResourceSelectionDialog::typeFillsBaseResources()
