@@ -52,6 +52,7 @@ class OpenHeader : public CheckedHeaderView
 {
 public:
     using CheckedHeaderView::CheckedHeaderView;
+    using CheckedHeaderView::mousePressEvent;
     using CheckedHeaderView::paintSection;
     using CheckedHeaderView::sectionSizeFromContents;
 };
@@ -256,8 +257,12 @@ void TstCheckedHeaderView::disabledHeaderKeepsItsState()
     QMouseEvent event(QEvent::MouseButtonPress, QPointF(3, 3), Qt::LeftButton, Qt::LeftButton,
                       Qt::NoModifier);
     QApplication::sendEvent(m_header->viewport(), &event);
+    m_header->mousePressEvent(&event); // which Qt would not call
     QCOMPARE(m_model->m_log, QStringList());
     m_header->setEnabled(true);
+    m_header->mousePressEvent(&event);
+    QCOMPARE(m_model->m_log.size(), 1);
+    m_model->m_log.clear();
     m_view->setEnabled(false);
     QApplication::sendEvent(m_header->viewport(), &event);
     QCOMPARE(m_model->m_log, QStringList());

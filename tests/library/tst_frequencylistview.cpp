@@ -2,7 +2,9 @@
 
 #include <support/listviewsamples.h>
 
+#include <QLineEdit>
 #include <QPainter>
+#include <QPaintEvent>
 #include <QPointer>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -30,6 +32,20 @@ public:
 
     mutable QStringList m_rows;
     mutable int m_heights = 0;
+};
+
+/// Gathers what is painted of a widget.
+class PaintedRegion : public QObject
+{
+public:
+    explicit PaintedRegion(QWidget* widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            m_region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+    QRegion m_region;
 };
 
 /// Rows that the view shows in its viewport, as the user sees them from top to bottom.
@@ -62,6 +78,7 @@ private slots:
     void currentRowFromNoneAndToNone();
     void rowThatIsNamedIsShown();
     void previousRowIsPaintedAnew();
+    void everyCellOfThePreviousRowIsPainted();
     void currentRowIsPaintedAnewWithoutSelection();
     void layoutSlotsNameTheCurrentRow();
     void sortingAnnouncesLayoutInOrder();
@@ -70,7 +87,9 @@ private slots:
     void distantRowsAreNotAskedForTheirHeight();
     void selectionIsPaintedWithRowsOfDifferentHeight();
 
+    void openEditorHasTheDataThatIsAnnounced();
     void newRootIndexIsAnnounced();
+    void announcedRootIndexIsTheRoot();
     void rootIndexIsDroppedWithItsModel();
     void rowsAreLaidOutAfterAReset();
     void rowsAreLaidOutWithAnotherModel();
@@ -257,6 +276,18 @@ void TstFrequencyListView::previousRowIsPaintedAnew()
     QCOMPARE(recorder.m_rows, QStringList("5"));
 }
 
+void TstFrequencyListView::everyCellOfThePreviousRowIsPainted()
+{
+    m_view->setCurrentIndex(m_model->index(5, 0));
+    QTest::qWait(1);
+    PaintedRegion painted(m_view->viewport());
+    m_view->selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
+    QTest::qWait(1);
+    for (int column = 0; column < 3; ++column)
+        QVERIFY(painted.m_region.contains(m_view->visualRect(m_model->index(5, column)).center()));
+    QVERIFY(!painted.m_region.contains(m_view->visualRect(m_model->index(3, 0)).center()));
+}
+
 void TstFrequencyListView::currentRowIsPaintedAnewWithoutSelection()
 {
     PaintRecorder recorder;
@@ -366,6 +397,26 @@ void TstFrequencyListView::selectionIsPaintedWithRowsOfDifferentHeight()
     QVERIFY(recorder.m_rows.contains("5"));
     QCOMPARE(m_view->visualRect(m_model->index(1, 0)).height(), 60);
     QCOMPARE(m_view->indexAt(m_view->visualRect(m_model->index(5, 0)).center()).row(), 5);
+}
+
+void TstFrequencyListView::openEditorHasTheDataThatIsAnnounced()
+{
+    m_view->openPersistentEditor(m_model->index(2, 1));
+    const auto* editor = m_view->viewport()->findChild<QLineEdit*>();
+    QVERIFY(editor);
+    QString text;
+    connect(m_view.get(), &FrequencyListView::si_dataChanged, this, [&] { text = editor->text(); });
+    m_model->item(2, 1)->setText("other");
+    QCOMPARE(text, QString("other"));
+}
+
+void TstFrequencyListView::announcedRootIndexIsTheRoot()
+{
+    m_model->item(1)->appendRow(new QStandardItem("child"));
+    QModelIndex root;
+    connect(m_view.get(), &FrequencyListView::si_rootIndexChanged, this, [&] { root = m_view->rootIndex(); });
+    m_view->setRootIndex(m_model->index(1, 0));
+    QCOMPARE(root, m_model->index(1, 0));
 }
 
 void TstFrequencyListView::newRootIndexIsAnnounced()
