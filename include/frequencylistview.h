@@ -9,7 +9,8 @@ namespace JEDVEPLUGIN {
 
 /// Tree view used as a flat list of frequencies: the Delete key removes the selected rows from the model, any
 /// character key starts editing, the current row can be painted bold, a context menu on the header shows and
-/// hides columns. Sorting is off. The rows are those under the root index. GUI thread only.
+/// hides columns. Sorting is off. The rows are those under the root index. Screen readers call it "Frequencies"
+/// until it is given another accessible name. GUI thread only.
 class JEDVEPB_EXPORT FrequencyListView : public QTreeView
 {
     Q_OBJECT

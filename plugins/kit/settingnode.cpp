@@ -219,11 +219,12 @@ void SettingNode::addEditors(QTabWidget* tabs) const
         const HeldSet* const set = heldSet(name);
         if (!set)
             continue;
-        QWidget* editor = m_factory.makeEditor(*set, tabs);
+        // Made before its content: Tab goes through the widgets in the order in which they were made.
+        auto* const area = new QScrollArea(tabs);
+        QWidget* editor = m_factory.makeEditor(*set, area);
         if (!editor)
             editor =
-                new QLabel(Texts::tr("There is no editor for these settings. They stay as they are."), tabs);
-        auto* const area = new QScrollArea(tabs);
+                new QLabel(Texts::tr("There is no editor for these settings. They stay as they are."), area);
         area->setFrameShape(QFrame::NoFrame);
         area->setWidgetResizable(true);
         area->setWidget(editor);

@@ -41,6 +41,7 @@ FrequencyListView::FrequencyListView(QWidget* parent, bool headerContextMenu, bo
     : QTreeView(parent)
     , m_boldCurrentRow(boldCurrentRow)
 {
+    setAccessibleName(tr("Frequencies"));
     setSortingEnabled(false);
     setRootIsDecorated(false);
     setEditTriggers(editTriggers() | QAbstractItemView::AnyKeyPressed);
