@@ -3,6 +3,7 @@
 #include <support/testmain.h>
 
 #include <jobxml/parametersettext.h>
+#include <jobxml/settings.h>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -36,11 +37,11 @@ const QHash<QString, QStringList> COMPONENTS = {
     {"DDemComponent", {"DDemSettings"}},
     {"DFLocateComponent", {"DF_Settings"}},
     {"DSCSettingsComponent", {"DSCSettings"}},
-    {"EDSettingsComponent", {"EDSettings"}},
+    {"EDSettingsComponent", {"EDSettings", "ShortTime_Settings"}},
     {"FFTSettingsComponent", {"FFTSettings"}},
     {"TunerSettingsComponent", {"TunerSettings", "AntennaSettings"}},
-    {"JobAutomaticSettingsComponent", {"JobAutomaticSettings"}},
-    {"AutoRecordingComponent", {"AutoRecordingSettings"}},
+    {"JobAutomaticSettingsComponent", {"JobAutomaticSettings", "AlarmSettings", "ActivityGeneration"}},
+    {"AutoRecordingComponent", {"AutoRecordingSettings", "StorageSettings"}},
     {"SignalDescriptionsComponent", {"SignalDescriptions"}},
     {"FHPJobSettingsComponent", {"FHPJobSettings"}},
     {"CompressionSettingsComponent", {"CompressionSettings"}},
@@ -131,6 +132,7 @@ private slots:
 
     void componentIsLoaded_data() { components(); }
     void componentIsLoaded();
+    void eachSetHasAComponent();
     void eachSetIsShown_data() { sets(); }
     void eachSetIsShown();
     void eachValueIsChangedByKeyboard_data() { sets(); }
@@ -211,6 +213,16 @@ void TstGuiComponents::componentIsLoaded()
     QVERIFY(component->GetIcon());
     QVERIFY(!component->GetIcon()->isNull());
     QVERIFY(CfgCenter::Instance()->DestroyDllInstanceByPointer(component));
+}
+
+void TstGuiComponents::eachSetHasAComponent()
+{
+    QStringList edited;
+    for (const QStringList& sets : COMPONENTS)
+        edited += sets;
+    const auto sets = JobXml::parameterSets();
+    for (const auto& set : sets)
+        QVERIFY2(edited.contains(QLatin1String(set.name)), set.name);
 }
 
 void TstGuiComponents::eachSetIsShown()
