@@ -1,6 +1,7 @@
 #include <mapviewlayermanager.h>
 #include <QCoreApplication>
 #include <QProcess>
+#include <QSharedMemory>
 #include <QTemporaryDir>
 #include <support/recordingmap.h>
 #include <sys/select.h>
@@ -93,6 +94,7 @@ private slots:
     void init();
 
     void furtherProcessesHaveNumbers();
+    void countStandsInASegmentOfItsName();
     void otherNamesAreCountedApart();
     void onlyProcessIsKilled();
     void oneOfSeveralIsKilled();
@@ -122,6 +124,20 @@ void TstMapInstances::furtherProcessesHaveNumbers()
     for (Editor* editor : {&first, &third, &fourth})
         editor->close();
     QCOMPARE(Editor(m_name).name(), m_name);
+}
+
+void TstMapInstances::countStandsInASegmentOfItsName()
+{
+    // As another edition of the library would find it, and leave it behind.
+    QSharedMemory segment("JOBEDITORVE_MAPVIEWLAYERMANAGER_LOCALINSTANCES_" + m_name);
+    QVERIFY(segment.create(4));
+    qint32& count = *static_cast<qint32*>(segment.data());
+    count = 3;
+    Editor fourth(m_name);
+    QCOMPARE(fourth.name(), m_name + " (3)");
+    QCOMPARE(count, 4);
+    fourth.close();
+    QCOMPARE(count, 3);
 }
 
 void TstMapInstances::otherNamesAreCountedApart()
