@@ -2,7 +2,7 @@
 
 JED_BUILD_PACKAGES=(g++ cmake ninja-build ccache python3 qtbase5-dev qtscript5-dev
                     qttools5-dev-tools libxml2-dev fonts-dejavu-core)
-JED_CHECK_PACKAGES=(libbenchmark-dev clang clang-format)
+JED_CHECK_PACKAGES=(libbenchmark-dev qtdeclarative5-dev clang clang-format)
 
 # jed_prerequisites <install: yes|no> <package>...
 # Installs the packages that are missing: at once as root, after one question with sudo, never with "no".
