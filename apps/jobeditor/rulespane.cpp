@@ -4,7 +4,6 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
@@ -90,8 +89,10 @@ RulesPane::RulesPane(Session::JobSession* session, QWidget* parent)
     m_view->setAccessibleName(tr("Rules that ran"));
     m_view->setUniformRowHeights(true);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_view->setColumnWidth(RuleRunModel::COLUMN_RULE, 320);
-    m_view->setColumnWidth(RuleRunModel::COLUMN_CHANGE, 380);
+    const int letter = m_view->fontMetrics().averageCharWidth();
+    m_view->setColumnWidth(RuleRunModel::COLUMN_RULE, 50 * letter);
+    m_view->setColumnWidth(RuleRunModel::COLUMN_CHANGE, 55 * letter);
+    m_view->setColumnWidth(RuleRunModel::COLUMN_TIME, 18 * letter);
     auto* const filterEdit = new QLineEdit(this);
     filterEdit->setObjectName(QStringLiteral("ruleFilter"));
     filterEdit->setPlaceholderText(tr("Filter rules"));

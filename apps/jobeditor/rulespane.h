@@ -3,8 +3,6 @@
 #include <QPointer>
 #include <QWidget>
 
-class QCheckBox;
-class QLineEdit;
 class QTreeView;
 class RuleRunFilter;
 

@@ -12,13 +12,16 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTreeView>
 #include <ruletimelimit.h>
 #include <session/fieldplaces.h>
 #include <session/installation.h>
 #include <session/jobsession.h>
 #include <session/pluginhost.h>
+#include <session/savefile.h>
 #include <values/valueselection.h>
 
 using JedTest::RuleSetup;
@@ -73,6 +76,7 @@ private slots:
     void markIsTakenBackByUndo();
     void faultsAreCountedAndCleared();
     void rulesHaveATimeLimit();
+    void scenarioTellsWhatRulesSet();
 
 private:
     void open();
@@ -335,6 +339,23 @@ void TstRulesPane::rulesHaveATimeLimit()
     QCOMPARE(JEDVEPLUGIN::ruleTimeLimit(), Session::RULE_TIME_LIMIT);
     m_window.reset();
     QCOMPARE(JEDVEPLUGIN::ruleTimeLimit(), 0);
+}
+
+void TstRulesPane::scenarioTellsWhatRulesSet()
+{
+    const QTemporaryDir folder;
+    QVERIFY(Session::saveFile(folder.filePath("steps.txt"),
+                              "new Search\nadd TRV9KScanSettings/VUHF-1\n"
+                              "set ScanSettings/Range.StepWidth 12.5k\nsave job.xml\n",
+                              nullptr));
+    QProcess process;
+    process.setWorkingDirectory(folder.path());
+    process.start(JED_BINARY_DIR "/bin/jobeditor", {"--batch", "steps.txt"});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()),
+             QString("job.xml\nSet by rules: Airband scan / Scan / Bandwidth 8 kHz -> 12.5 kHz "
+                     "(ScanSettings_Range_StepWidth_changed)\n"));
 }
 
 JED_TEST_MAIN(TstRulesPane)
