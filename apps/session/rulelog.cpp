@@ -3,8 +3,9 @@
 #include "fieldplaces.h"
 
 #include <algorithm>
-#include <jobxml/valuetext.h>
+#include <jobxml/quantity.h>
 #include <kit/subjobtree.h>
+#include <reportlayer/elementtable.h>
 #include <ruleobjectmanager.h>
 #include <values/tree.h>
 
@@ -38,14 +39,14 @@ bool RuleRun::isEmpty() const
     return isFunctionMissing && changes.isEmpty() && errors.isEmpty() && !isStopped && inner.empty();
 }
 
-/// Knows what a value was before its latest change.
+/// Knows what a value was before its latest change. There are many of them, so it makes nothing readable by itself.
 class RuleLog::Watch : public IObserver
 {
 public:
     Watch(RuleLog* log, ValueBase* value, const QString& path)
         : m_log(log)
         , m_value(value)
-        , m_change{path, QString(), readable()}
+        , m_path(path)
         , m_text(value->GetText())
     {
         value->AddObserver(this);
@@ -53,19 +54,18 @@ public:
     ~Watch() override { m_value->DeleteObserver(this); }
 
     const ValueBase* value() const { return m_value; }
-    /// The latest change.
-    const RuleChange& change() const { return m_change; }
+
+    RuleChange latestChange() const { return {m_path, readable(m_textBefore), readable(m_text)}; }
 
     /// Tells the log of a change that it has not been told of.
     void look()
     {
-        const QString text = m_value->GetText();
+        QString text = m_value->GetText();
         if (text == m_text)
             return;
-        m_text = text;
-        m_change.before = m_change.after;
-        m_change.after = readable();
-        m_log->noteChange(m_change);
+        m_text.swap(text);
+        m_textBefore = text;
+        m_log->noteChange(*this);
     }
 
     void Update(Observable*, TChangeCode code) override
@@ -73,23 +73,25 @@ public:
         if (code == CHANGE_VALUE || code == CHANGE_ITEMS)
             look();
         else if (code == CHANGE_STATE && m_value->GetState() == STATE_LEAVING)
-            m_log->noteGone(m_change.path); // deletes this
+            m_log->noteGone(m_path); // deletes this
     }
+
+    const QString& path() const { return m_path; }
 
 private:
     Q_DISABLE_COPY(Watch)
 
-    QString readable() const
+    QString readable(const QString& text) const
     {
-        const QString field = m_value->GetParent() ? m_value->GetParent()->GetId() : QString();
-        return JobXml::readableValue(
-            *m_value, PluginKit::SubjobTree::field(field + QLatin1Char('/') + m_value->GetId()));
+        const REPORTGENERATOR::Field* const field = PluginKit::SubjobTree::field(fieldOfPath(m_path));
+        return JobXml::readableQuantity(text, field ? field->unit() : QString());
     }
 
     RuleLog* m_log;
     ValueBase* m_value;
-    RuleChange m_change;
-    QString m_text; // Exactly; what is readable may be rounded.
+    QString m_path;
+    QString m_textBefore;
+    QString m_text;
 };
 
 RuleLog::RuleLog(int mostRuns, QObject* parent)
@@ -154,7 +156,7 @@ void RuleLog::runBegins(const RuleRunInfo& info)
     run->function = info.function;
     run->trigger.path = info.trigger;
     if (watch != m_watches.end())
-        run->trigger = watch->second->change();
+        run->trigger = watch->second->latestChange();
     m_open.push_back(std::move(run));
 }
 
@@ -186,11 +188,12 @@ RuleRun* RuleLog::innermost() const
     return found == m_open.rend() ? nullptr : found->get();
 }
 
-void RuleLog::noteChange(const RuleChange& change)
+void RuleLog::noteChange(const Watch& watch)
 {
     RuleRun* const run = innermost();
     if (!run)
-        return removeMark(change.path);
+        return removeMark(watch.path());
+    const RuleChange change = watch.latestChange();
     RuleChange* known = findChange(run, change.path);
     if (known) {
         known->after = change.after;

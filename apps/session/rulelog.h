@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <memory>
 #include <QDateTime>
 #include <QHash>
@@ -8,6 +7,7 @@
 #include <QString>
 #include <QVector>
 #include <rulemonitor.h>
+#include <unordered_map>
 #include <vector>
 
 namespace Session {
@@ -91,7 +91,7 @@ private:
     void runEnds(const JEDVEPLUGIN::RuleRunInfo& info) override;
 
     RuleRun* innermost() const;
-    void noteChange(const RuleChange& change);
+    void noteChange(const Watch& watch);
     void noteGone(QString path);
     void removeMark(const QString& path);
     void keep(std::unique_ptr<RuleRun> run);
@@ -102,7 +102,7 @@ private:
     QVector<Run> m_runs;
     std::vector<std::unique_ptr<RuleRun>> m_open; // From the outermost in; null where nothing is kept.
     int m_openCount = 0;                          // Runs kept so far of the outermost one, itself included.
-    std::map<QString, std::unique_ptr<Watch>> m_watches;
+    std::unordered_map<QString, std::unique_ptr<Watch>> m_watches;
     QMultiHash<const Manager*, QString> m_paths;
     QHash<QString, RuleMark> m_marks;
 };
