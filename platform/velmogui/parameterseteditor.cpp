@@ -77,8 +77,8 @@ void ParameterSetEditor::setMark(const QString& field, const QString& mark, cons
         return;
     label->setText(mark);
     label->setToolTip(toolTip);
-    label->setAccessibleDescription(toolTip);
     label->setVisible(!mark.isEmpty());
+    control(field)->setNote(toolTip);
 }
 
 void ParameterSetEditor::addValue(ValueBase* value, const ElementTable* table)

@@ -39,7 +39,8 @@ public:
     ValueControl* control(const QString& field) const;
     /// Whether its values can only be looked at; at first they can be changed.
     void setReadOnly(bool readOnly);
-    /// A short text beside a control that says where its value comes from; empty takes it away.
+    /// A short text beside a control that says where its value comes from; empty takes it away. The tool tip is the
+    /// control's, too.
     void setMark(const QString& field, const QString& mark, const QString& toolTip);
 
 private:

@@ -137,6 +137,14 @@ void ValueControl::Update(Observable*, TChangeCode code)
         showHelp();
 }
 
+void ValueControl::setNote(const QString& note)
+{
+    if (note == m_note)
+        return;
+    m_note = note;
+    showHelp();
+}
+
 void ValueControl::setReadOnly(bool readOnly)
 {
     m_isReadOnly = readOnly;
@@ -255,12 +263,14 @@ void ValueControl::showValue()
     setFault(QString());
 }
 
-// Help, what the value may be, and why it was not taken.
+// Why the value was not taken, the note, help, and what it may be.
 void ValueControl::showHelp()
 {
     QStringList lines;
     if (!m_fault.isEmpty())
         lines.append(m_fault);
+    if (!m_note.isEmpty())
+        lines.append(m_note);
     if (m_field && !m_field->help().isEmpty())
         lines.append(m_field->help());
     const QString range = m_value ? JobXml::readableRange(*m_value, m_field) : QString();

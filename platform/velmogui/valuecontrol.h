@@ -40,6 +40,8 @@ public:
     ValueBase* value() const { return m_value; }
     /// Why the text in the control was not taken; empty if the value is what is shown.
     const QString& fault() const { return m_fault; }
+    /// One more sentence for the tool tip and for screen readers; empty takes it away.
+    void setNote(const QString& note);
     /// What can be seen, copied and reached, but not changed. At first it can be changed.
     void setReadOnly(bool readOnly);
 
@@ -71,6 +73,7 @@ private:
     QWidget* m_widget = nullptr;
     std::function<void()> m_show; // Brings the value into the widget.
     QString m_fault;
+    QString m_note;
     bool m_isCommitting = false;
     bool m_isReadOnly = false;
 };

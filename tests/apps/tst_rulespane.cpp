@@ -289,6 +289,10 @@ void TstRulesPane::markTellsWhoSetTheField()
     QVERIFY2(marks()[0].startsWith("Set by the rule ScanSettings_Range_StepWidth_changed at "),
              qPrintable(marks()[0]));
     QVERIFY2(marks()[0].endsWith(" UTC. Before: 8 kHz"), qPrintable(marks()[0]));
+    // Whoever reads the screen by ear is told at the field.
+    const auto* const edit = m_window->findChild<QLineEdit*>(BANDWIDTH);
+    QCOMPARE(edit->accessibleDescription(), marks()[0]);
+    QVERIFY2(edit->toolTip().startsWith(marks()[0] + '\n'), qPrintable(edit->toolTip()));
     // Still there after a look at another setting.
     m_window->setCurrentSetting(m_session->settingAt({0}));
     QCOMPARE(marks(), QStringList());
@@ -308,6 +312,7 @@ void TstRulesPane::markGoesWhenTheOperatorSetsTheField()
     QTest::keyClick(edit, Qt::Key_Return);
     QCOMPARE(edit->text(), QString("9 kHz"));
     QCOMPARE(marks(), QStringList());
+    QVERIFY(!edit->toolTip().contains("rule"));
 }
 
 void TstRulesPane::markIsTakenBackByUndo()
