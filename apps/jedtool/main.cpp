@@ -1,33 +1,9 @@
 #include "commandline.h"
 
 #include <exception>
-#include <memory>
-#include <QApplication>
 #include <QLoggingCategory>
+#include <session/application.h>
 #include <session/headlessdialogs.h>
-
-#if defined(__SANITIZE_ADDRESS__)
-#include <QScriptEngine>
-#include <sanitizer/lsan_interface.h>
-#endif
-
-namespace {
-// What Qt's platform plug-ins, font and script libraries allocate once per process and never free is no leak of ours.
-std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
-{
-#if defined(__SANITIZE_ADDRESS__)
-    const __lsan::ScopedDisabler ignored;
-#endif
-    // Nobody sees the windows, so what Qt has to say about them does not matter. Traces are for those who ask for them
-    // with QT_LOGGING_RULES, which comes before these rules.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false\njobeditorve.trace=false"));
-    auto application = std::make_unique<QApplication>(argc, argv);
-#if defined(__SANITIZE_ADDRESS__)
-    QScriptEngine().collectGarbage();
-#endif
-    return application;
-}
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -38,7 +14,10 @@ int main(int argc, char** argv)
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     int ownCount = 1;
-    const std::unique_ptr<QApplication> application = makeApplication(ownCount, argv);
+    // Nobody sees the windows, so what Qt has to say about them does not matter. Traces are for those who ask for them
+    // with QT_LOGGING_RULES, which comes before these rules.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false\njobeditorve.trace=false"));
+    const std::unique_ptr<QApplication> application = Session::makeApplication(ownCount, argv);
     const Session::HeadlessDialogs dialogs;
     try {
         return JedTool::runCommandLine(arguments);

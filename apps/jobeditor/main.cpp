@@ -1,10 +1,10 @@
 #include <jobeditor/batch.h>
 #include <jobeditor/editorwindow.h>
 
-#include <QApplication>
 #include <QCommandLineParser>
 #include <QMessageBox>
 #include <QSettings>
+#include <session/application.h>
 #include <session/installation.h>
 #include <session/jobsession.h>
 #include <session/pluginhost.h>
@@ -12,7 +12,7 @@
 int main(int argc, char* argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QApplication application(argc, argv);
+    const std::unique_ptr<QApplication> application = Session::makeApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("jobeditor"));
     QCoreApplication::setOrganizationName(QStringLiteral("jobeditorve"));
     QCoreApplication::setApplicationVersion(QStringLiteral(JED_VERSION));
@@ -29,7 +29,7 @@ int main(int argc, char* argv[])
     parser.addOption({QStringLiteral("batch"), text("Run a scenario without a person."), text("FILE")});
     parser.addOption({QStringLiteral("dark"), text("Light colours on dark windows.")});
     parser.addPositionalArgument(QStringLiteral("job"), text("Job file to open."), QStringLiteral("[job]"));
-    parser.process(application);
+    parser.process(*application);
 
     if (parser.isSet(QStringLiteral("clean-settings")))
         QSettings().clear();
