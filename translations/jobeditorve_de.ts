@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ApplyDialog</name>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Apply settings</source>
+        <translation>Einstellungen übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Settings of &quot;%1&quot;</source>
+        <translation>&amp;Einstellungen von „%1“</translation>
+    </message>
+    <message>
+        <source>Apply &amp;to</source>
+        <translation>Übernehmen &amp;in</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>To a&amp;ll</source>
+        <translation>In a&amp;lle</translation>
+    </message>
+</context>
+<context>
     <name>DfScanPlugin</name>
     <message>
         <source>DF scan</source>
@@ -329,6 +356,26 @@ Anlage: %3</translation>
         <source>Rules (%1 failed)</source>
         <translation>Regeln (%1 fehlgeschlagen)</translation>
     </message>
+    <message>
+        <source>Appl&amp;y these settings to...</source>
+        <translation>Diese Einstellungen ü&amp;bernehmen in...</translation>
+    </message>
+    <message>
+        <source>Apply settings</source>
+        <translation>Einstellungen übernehmen</translation>
+    </message>
+    <message>
+        <source>There is no other setting that could take these settings over.</source>
+        <translation>Es gibt keine andere Einstellung, die diese Einstellungen übernehmen könnte.</translation>
+    </message>
+    <message>
+        <source>Not all of it could be applied to: %1</source>
+        <translation>Nicht alles konnte übernommen werden in: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>FreqStoreXml::FileHandling</name>
@@ -339,6 +386,13 @@ Anlage: %3</translation>
     <message>
         <source>line %1: %2</source>
         <translation>Zeile %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>JEDVEPLUGIN::FrequencyListView</name>
+    <message>
+        <source>Frequencies</source>
+        <translation>Frequenzen</translation>
     </message>
 </context>
 <context>
@@ -4459,6 +4513,13 @@ Anlage: %3</translation>
     <message>
         <source>The scan has a single step</source>
         <translation>Der Suchlauf hat nur einen Schritt</translation>
+    </message>
+</context>
+<context>
+    <name>Session::ApplySettings</name>
+    <message>
+        <source>Apply %1</source>
+        <translation>%1 übernehmen</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "editorwindow.h"
 
+#include "applydialog.h"
 #include "editorpane.h"
 #include "pluginpage.h"
 #include "treepane.h"
@@ -22,6 +23,7 @@
 #include <QMessageBox>
 #include <QUrl>
 #include <QWhatsThis>
+#include <session/applysettings.h>
 #include <session/installation.h>
 #include <session/jobsession.h>
 
@@ -69,17 +71,17 @@ void EditorWindow::buildEditMenu()
     QMenu* const add = m_settingMenu->addMenu(tr("&Add"));
     connect(add, &QMenu::aboutToShow, this, [this, add] { fillAddMenu(add); });
     m_changeActions << add->menuAction();
-    m_settingActions << m_settingMenu->addAction(tr("&Duplicate"), this, &EditorWindow::duplicate,
-                                                 QKeySequence(Qt::CTRL + Qt::Key_D))
-                     << m_settingMenu->addAction(tr("De&lete"), this, &EditorWindow::removeCurrent,
-                                                 QKeySequence(Qt::CTRL + Qt::Key_Delete))
-                     << m_settingMenu->addAction(tr("Re&name"), m_tree, &TreePane::editName)
-                     << m_settingMenu->addAction(
-                            tr("Move &up"), this, [this] { moveCurrent(-1); },
-                            QKeySequence(Qt::ALT + Qt::Key_Up))
-                     << m_settingMenu->addAction(
-                            tr("Move do&wn"), this, [this] { moveCurrent(1); },
-                            QKeySequence(Qt::ALT + Qt::Key_Down));
+    m_settingActions
+        << m_settingMenu->addAction(tr("&Duplicate"), this, &EditorWindow::duplicate,
+                                    QKeySequence(Qt::CTRL + Qt::Key_D))
+        << m_settingMenu->addAction(tr("De&lete"), this, &EditorWindow::removeCurrent,
+                                    QKeySequence(Qt::CTRL + Qt::Key_Delete))
+        << m_settingMenu->addAction(tr("Re&name"), m_tree, &TreePane::editName)
+        << m_settingMenu->addAction(
+               tr("Move &up"), this, [this] { moveCurrent(-1); }, QKeySequence(Qt::ALT + Qt::Key_Up))
+        << m_settingMenu->addAction(
+               tr("Move do&wn"), this, [this] { moveCurrent(1); }, QKeySequence(Qt::ALT + Qt::Key_Down))
+        << m_settingMenu->addAction(tr("Appl&y these settings to..."), this, &EditorWindow::applyToOthers);
     m_tree->setRowMenu(m_settingMenu);
 
     // With a modifier of their own: the plain keys belong to the fields of the editors.
@@ -271,6 +273,29 @@ void EditorWindow::moveCurrent(int step)
     const int row = setting->parent() ? setting->row() : m_session->topLevelIndex(setting);
     if (m_session->move(setting->parent(), row, step < 0 ? row - 1 : row + 2))
         m_tree->setCurrentSetting(setting);
+}
+
+void EditorWindow::applyToOthers()
+{
+    ISubSetting* const source = m_tree->currentSetting();
+    if (!source)
+        return;
+    m_session->flushEdits();
+    if (Session::applicableSets(*source).isEmpty() ||
+        Session::similarSettings(*m_session, source).isEmpty()) {
+        QMessageBox::information(this, tr("Apply settings"),
+                                 tr("There is no other setting that could take these settings over."));
+        return;
+    }
+    ApplyDialog dialog(*m_session, source, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QStringList names;
+    for (ISubSetting* refused : Session::applySettings(m_session, source, dialog.sets(), dialog.targets()))
+        names.append((refused->parent() ? refused->parent() : refused)->getDisplayName());
+    if (!names.isEmpty())
+        QMessageBox::information(this, tr("Apply settings"),
+                                 tr("Not all of it could be applied to: %1").arg(names.join(tr(", "))));
 }
 
 void EditorWindow::buildHelpMenu()

@@ -1,5 +1,7 @@
 #include "editorpane.h"
 
+#include "tableediting.h"
+
 #include <isubsetting.h>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -51,6 +53,7 @@ void EditorPane::show(JEDVEPLUGIN::ISubSetting* setting, const QString& text)
     }
     if (m_stack->indexOf(widget) < 0)
         m_stack->addWidget(widget);
+    TableEditing::install(widget);
     m_stack->setCurrentWidget(widget);
 }
 

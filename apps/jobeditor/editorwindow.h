@@ -82,6 +82,7 @@ private:
     void duplicate();
     void removeCurrent();
     void moveCurrent(int step);
+    void applyToOthers();
     void setReadOnly(bool readOnly);
     void showField(JEDVEPLUGIN::ISubSetting* setting, const QString& parameterSet, const QString& field);
 

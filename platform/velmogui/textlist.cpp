@@ -1,5 +1,8 @@
+#include <velmogui/spreadsheetrows.h>
 #include <velmogui/textlist.h>
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -76,13 +79,16 @@ void TextList::setReadOnly(bool readOnly)
 
 bool TextList::eventFilter(QObject* watched, QEvent* event)
 {
-    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+    const bool isKey = event->type() == QEvent::KeyPress;
+    const int key = isKey ? static_cast<QKeyEvent*>(event)->key() : 0;
     if (m_isReadOnly)
         return QWidget::eventFilter(watched, event);
     if (key == Qt::Key_Insert)
         add();
     else if (key == Qt::Key_Delete)
         removeCurrent();
+    else if (isKey && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste))
+        paste();
     else
         return QWidget::eventFilter(watched, event);
     return true;
@@ -96,6 +102,21 @@ void TextList::add()
     }
     m_list->setCurrentRow(m_list->count() - 1);
     m_list->editItem(m_list->currentItem());
+}
+
+void TextList::paste()
+{
+    QStringList pasted;
+    for (const QStringList& row : spreadsheetRows(QApplication::clipboard()->text()))
+        pasted += row;
+    pasted.removeAll(QString());
+    if (pasted.isEmpty())
+        return;
+    const int place = m_list->currentRow() < 0 ? m_list->count() : m_list->currentRow() + 1;
+    const QStringList present = texts();
+    setTexts(present.mid(0, place) + pasted + present.mid(place));
+    m_list->setCurrentRow(place + pasted.size() - 1);
+    emit textsChanged();
 }
 
 void TextList::removeCurrent()

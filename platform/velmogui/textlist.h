@@ -11,7 +11,7 @@ class QToolButton;
 namespace VelmoGui {
 
 /// A short list of texts that can be edited in place, with buttons to add and to remove. The Insert key adds, Delete
-/// removes, F2 edits. GUI thread only.
+/// removes, F2 edits; cells of a spreadsheet are pasted behind the current entry, one entry each. GUI thread only.
 class VELMOGUI_EXPORT TextList : public QWidget
 {
     Q_OBJECT
@@ -33,6 +33,7 @@ signals:
 
 private:
     void add();
+    void paste();
     void removeCurrent();
     void appendItem(const QString& text);
 

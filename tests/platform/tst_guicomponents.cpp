@@ -5,6 +5,7 @@
 #include <jobxml/parametersettext.h>
 #include <jobxml/settings.h>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
@@ -160,6 +161,7 @@ private slots:
     void everyFrequencyHasALine();
     void listTakesUnits();
     void listKeepsWhatDoesNotFit();
+    void listTakesCellsOfASpreadsheet();
     void eitherDecimalSign_data();
     void eitherDecimalSign();
     void readOnly();
@@ -624,6 +626,38 @@ void TstGuiComponents::listKeepsWhatDoesNotFit()
     QTest::keyClick(view, Qt::Key_Escape);
     QCOMPARE(view->count(), 0);
     QCOMPARE(control->fault(), QString());
+}
+
+void TstGuiComponents::listTakesCellsOfASpreadsheet()
+{
+    Node node;
+    node.SetName("ScanSettings");
+    auto* const list = new StringList;
+    list->SetName("SuppressedFrequency");
+    node.AddChild(list, QString());
+    list->SetItems({"118000000", "119000000"});
+    ParameterSetEditor editor("ScanSettings", &node);
+    editor.show();
+    ValueControl* const control = editor.control("SuppressedFrequency");
+    auto* const view = control->widget()->findChild<QListWidget*>();
+    view->setCurrentRow(0);
+    QApplication::clipboard()->setText("channel 16\t243000000");
+    QTest::keyClick(view, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(list->GetItems(), (QVector<QString>{"118000000", "119000000"}));
+    QVERIFY(!control->fault().isEmpty());
+    QTest::keyClick(view, Qt::Key_Escape);
+    view->setCurrentRow(0);
+    QApplication::clipboard()->setText("121,5 MHz\t243000000\n\n156.8 MHz\n");
+    QTest::keyClick(view, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(list->GetItems(),
+             (QVector<QString>{"118000000", "121500000", "243000000", "156800000", "119000000"}));
+    QApplication::clipboard()->setText(QString());
+    QTest::keyClick(view, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(list->GetItemCount(), 5);
+    control->setReadOnly(true);
+    QApplication::clipboard()->setText("1");
+    QTest::keyClick(view, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(list->GetItemCount(), 5);
 }
 
 void TstGuiComponents::eitherDecimalSign_data()
