@@ -37,7 +37,8 @@ public:
     virtual QStringList parameterSetNames() const = 0;
     /// The present content of one parameter set as XML text; empty if the node has no set of that name.
     virtual QString parameterSetText(const QString& name) const = 0;
-    /// Replaces the content of one parameter set. Undo and redo set what parameterSetText() gave before.
+    /// Replaces the content of one parameter set. Undo and redo set what parameterSetText() gave before: an empty
+    /// text takes a set away that the node can be without, and a text for one that it could carry makes it.
     /// \return false, with nothing changed, for an unknown name or text that cannot be read
     virtual bool setParameterSetText(const QString& name, const QString& xml) = 0;
     /// Whether getTreeColor() replaces the tree's usual colour.

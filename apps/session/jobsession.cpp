@@ -320,7 +320,9 @@ void JobSession::flushEdits()
     for (auto known = m_known.begin(); known != m_known.end(); ++known) {
         if (!settings.contains(known.key()))
             continue;
-        for (const QString& set : known.key()->parameterSetNames()) {
+        QStringList sets = known.key()->parameterSetNames() + known->keys(); // Also those that have gone.
+        sets.removeDuplicates();
+        for (const QString& set : qAsConst(sets)) {
             QString& before = (*known)[set];
             const QString after = known.key()->parameterSetText(set);
             if (after == before)

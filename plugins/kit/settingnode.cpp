@@ -1,6 +1,7 @@
 #include <kit/kitfactory.h>
 #include <kit/mimetext.h>
 #include <kit/settingnode.h>
+#include <kit/settingpages.h>
 #include <kit/subjobnode.h>
 
 #include <jobxml/settings.h>
@@ -11,6 +12,8 @@
 #include <QTabWidget>
 #include <QWidget>
 #include <values/node.h>
+
+#include <algorithm>
 
 using JEDVEPLUGIN::Problem;
 
@@ -68,9 +71,16 @@ QString SettingNode::parameterSetText(const QString& name) const
 
 bool SettingNode::setParameterSetText(const QString& name, const QString& xml)
 {
-    HeldSet* const set = find(name);
+    if (xml.isEmpty())
+        return dropSet(name);
     const SubjobRules::Pause pause(rules());
-    return set && set->setText(xml);
+    if (HeldSet* const set = find(name))
+        return set->setText(xml);
+    if (!holdSet(name, xml))
+        return false;
+    refreshPages();
+    tellChange();
+    return true;
 }
 
 QWidget* SettingNode::getWidget()
@@ -156,6 +166,45 @@ void SettingNode::holdSetsOfReceiver()
     }
 }
 
+QStringList SettingNode::addableSets()
+{
+    const SubjobNode* const owner = subjob();
+    QStringList result;
+    for (const QString& name : m_type.parameterSets) {
+        if (owner && !heldSet(name) && owner->values(name))
+            result.append(name);
+    }
+    return result;
+}
+
+void SettingNode::addSet(const QString& name)
+{
+    if (const SubjobNode* const owner = subjob())
+        setParameterSetText(name, owner->defaultText(name));
+}
+
+bool SettingNode::canDropSet(const QString& name)
+{
+    const SubjobNode* const owner = subjob();
+    return owner && heldSet(name) && m_sets.size() > 1 && !owner->isMandatory(name);
+}
+
+QWidget* SettingNode::makePage(const QString& name, QWidget* parent) const
+{
+    // Made before its content: Tab goes through the widgets in the order in which they were made.
+    auto* const area = new QScrollArea(parent);
+    QWidget* editor = m_factory.makeEditor(*heldSet(name), area);
+    if (!editor)
+        editor = new QLabel(Texts::tr("There is no editor for these settings. They stay as they are."), area);
+    editor->setEnabled(!isReadOnly());
+    area->setObjectName(name);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(editor);
+    area->setAccessibleName(JobXml::findParameterSet(name)->label());
+    return area;
+}
+
 bool SettingNode::holdSet(const QString& name, const QString& xml)
 {
     const SubjobRules::Pause pause(rules());
@@ -193,6 +242,7 @@ void SettingNode::lockEditors()
         auto* const area = qobject_cast<QScrollArea*>(tabs->widget(i));
         (area ? area->widget() : tabs->widget(i))->setEnabled(!isReadOnly());
     }
+    refreshPages();
 }
 
 void SettingNode::dismantle()
@@ -207,30 +257,21 @@ void SettingNode::dismantle()
 
 QWidget* SettingNode::makeWidget()
 {
+    if (m_sets.empty())
+        return nullptr;
+    if (m_type.parameterSets.size() > 1)
+        return new SettingPages(*this, nullptr);
     auto tabs = std::make_unique<QTabWidget>();
     addEditors(tabs.get());
-    return tabs->count() > 0 ? tabs.release() : nullptr;
+    return tabs.release();
 }
 
 void SettingNode::addEditors(QTabWidget* tabs) const
 {
     tabs->setAccessibleName(getDisplayName());
     for (const QString& name : m_type.parameterSets) {
-        const HeldSet* const set = heldSet(name);
-        if (!set)
-            continue;
-        // Made before its content: Tab goes through the widgets in the order in which they were made.
-        auto* const area = new QScrollArea(tabs);
-        QWidget* editor = m_factory.makeEditor(*set, area);
-        if (!editor)
-            editor =
-                new QLabel(Texts::tr("There is no editor for these settings. They stay as they are."), area);
-        area->setFrameShape(QFrame::NoFrame);
-        area->setWidgetResizable(true);
-        area->setWidget(editor);
-        const QString label = JobXml::findParameterSet(name)->label();
-        area->setAccessibleName(label);
-        tabs->addTab(area, label);
+        if (heldSet(name))
+            tabs->addTab(makePage(name, tabs), JobXml::findParameterSet(name)->label());
     }
 }
 
@@ -243,6 +284,24 @@ SubjobRules* SettingNode::rules()
 {
     const SubjobNode* const owner = subjob();
     return owner ? owner->rules() : nullptr;
+}
+
+bool SettingNode::dropSet(const QString& name)
+{
+    const auto held =
+        std::find_if(m_sets.begin(), m_sets.end(), [&name](const auto& set) { return set->name() == name; });
+    if (held == m_sets.end() || m_sets.size() == 1)
+        return false;
+    m_sets.erase(held);
+    refreshPages();
+    tellChange();
+    return true;
+}
+
+void SettingNode::refreshPages()
+{
+    if (auto* const pages = qobject_cast<SettingPages*>(m_widget))
+        pages->refresh();
 }
 
 HeldSet* SettingNode::find(const QString& name) const

@@ -52,6 +52,15 @@ public:
     /// The display name and what is wrong.
     QString getToolTip() const override;
 
+    /// Sets of its type that the node does not carry and its receiver has.
+    QStringList addableSets();
+    /// Makes a set with the receiver's defaults, as an operator's change.
+    void addSet(const QString& name);
+    /// Whether an operator may take a set away: neither the last one, nor one that the receiver always has.
+    bool canDropSet(const QString& name);
+    /// The page on which a set that the node carries is edited. \param parent  its owner
+    QWidget* makePage(const QString& name, QWidget* parent) const;
+
     /// The sub-job that the node belongs to, itself for a sub-job.
     virtual SubjobNode* subjob();
     /// Gives the values of a set their defaults, those of the receiver; makes the set where the receiver has it.
@@ -79,6 +88,8 @@ protected:
 
 private:
     HeldSet* find(const QString& name) const;
+    bool dropSet(const QString& name);
+    void refreshPages();
     SubjobRules* rules();
 
     const SettingType& m_type;

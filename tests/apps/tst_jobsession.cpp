@@ -71,6 +71,7 @@ private slots:
     void modelShowsTheJob();
     void modelFollowsEveryChange();
     void modelDropsWithinAParent();
+    void closedPageIsUndone();
     void readOnlyJobCannotBeChanged();
 
     void scenarioIsRun();
@@ -430,6 +431,30 @@ void TstJobSession::modelDropsWithinAParent()
     QMimeData foreign;
     foreign.setData("application/x-jobeditor-setting-place", "17/0");
     QVERIFY(!model.canDropMimeData(&foreign, Qt::MoveAction, 0, 0, QModelIndex()));
+}
+
+void TstJobSession::closedPageIsUndone()
+{
+    open("production");
+    const QByteArray before = text();
+    JobSession::Setting* node = nullptr;
+    JobSession::Setting* const subjob = m_session->settingAt({0});
+    for (int i = 0; i < subjob->childCount(); ++i) {
+        if (subjob->child(i)->parameterSetNames().size() > 1)
+            node = subjob->child(i);
+    }
+    QVERIFY(node);
+    const QString set = node->parameterSetNames().last();
+    QVERIFY(node->setParameterSetText(set, QString()));
+    m_session->flushEdits();
+    QVERIFY(text() != before);
+    QCOMPARE(m_session->undoStack()->count(), 1);
+    m_session->undoStack()->undo();
+    QCOMPARE(text(), before);
+    m_session->undoStack()->redo();
+    QVERIFY(!node->parameterSetNames().contains(set));
+    m_session->undoStack()->undo();
+    QCOMPARE(text(), before);
 }
 
 void TstJobSession::readOnlyJobCannotBeChanged()

@@ -6,6 +6,7 @@
 #include <support/testmain.h>
 #include <values/tree.h>
 #include <values/valuenumeric.h>
+#include <velmogui/parameterseteditor.h>
 
 using JedTest::LoadedPlugin;
 using JedTest::subjobOn;
@@ -333,9 +334,10 @@ void TstSearchPlugin::readOnlySettingsCannotBeEdited()
     const LoadedPlugin plugin("search");
     ISubSetting* const scan = below(scanner(plugin), "Scan");
     plugin->setReadOnly(true);
-    QVERIFY(!scan->getWidget()->isEnabled());
+    const auto* const editor = scan->getWidget()->findChild<VelmoGui::ParameterSetEditor*>();
+    QVERIFY(editor && !editor->isEnabled());
     plugin->setReadOnly(false);
-    QVERIFY(scan->getWidget()->isEnabled());
+    QVERIFY(editor->isEnabled());
 }
 
 void TstSearchPlugin::rulesFollowChanges_data()
