@@ -28,7 +28,8 @@ MapConnection::MapConnection(QLocalSocket* socket, MapScene* scene, QObject* par
     m_socket->setParent(this);
     m_socket->setReadBufferSize(READ_BUFFER);
     connect(m_socket, &QLocalSocket::readyRead, this, &MapConnection::read);
-    connect(m_socket, &QLocalSocket::disconnected, this, &MapConnection::leave);
+    // Not in the middle of a change of the scene that a client is told of.
+    connect(m_socket, &QLocalSocket::disconnected, this, &MapConnection::leave, Qt::QueuedConnection);
     connect(m_socket, &QLocalSocket::bytesWritten, this, &MapConnection::sendVisibleArea);
     // It may have come with its first words.
     QTimer::singleShot(0, this, &MapConnection::read);
@@ -198,8 +199,9 @@ void MapServer::accept()
             connection->setVisibleArea(m_visibleArea);
             emit message(tr("%1 has come").arg(m_scene->clientName(connection->client())));
         });
-        connect(connection, &MapConnection::closed, this,
-                [this, connection](const QString& reason) { release(connection, reason); });
+        connect(
+            connection, &MapConnection::closed, this,
+            [this, connection](const QString& reason) { release(connection, reason); }, Qt::QueuedConnection);
     }
 }
 
