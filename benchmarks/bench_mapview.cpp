@@ -1,4 +1,5 @@
 #include "mapviewlayermanager.h"
+#include "naivemaplayers.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -6,8 +7,8 @@
 
 #include <benchmark/benchmark.h>
 
-// Drawing and removing shapes, with a map that is linked but does not read meanwhile. Measured by the client's calls
-// alone, and by the same work on fewer shapes.
+// Drawing and removing shapes, with a map that is linked but does not read meanwhile. Measured by a manager that
+// searches every time, by the client's calls alone, and by the same work on fewer shapes.
 
 namespace {
 using JEDVEPLUGIN::MapViewLayerManager;
@@ -53,9 +54,25 @@ public:
     }
 };
 
-QVector<MapViewLayerManager::tObjectID> draw(MapViewLayerManager& target, int count)
+/// The same, with a map of its own.
+NaiveMapLayers& naiveManager()
 {
-    QVector<MapViewLayerManager::tObjectID> ids;
+    static JedTest::RecordingMap map(serverName("naive"));
+    static NaiveMapLayers* const linked = [] {
+        map.start();
+        auto* const made = new NaiveMapLayers(serverName("naive"), "bench", "EDIT=TRUE");
+        waitFor(*made);
+        return made;
+    }();
+    QCoreApplication::processEvents();
+    map.take();
+    return *linked;
+}
+
+template <typename Target>
+QVector<quint64> draw(Target& target, int count)
+{
+    QVector<quint64> ids;
     ids.reserve(count);
     for (int i = 0; i < count; ++i)
         ids.append(target.addRect(QString("Layer %1").arg(i % LAYERS), "Region", QRectF(i % 90, i % 45, 1, 1),
@@ -63,9 +80,9 @@ QVector<MapViewLayerManager::tObjectID> draw(MapViewLayerManager& target, int co
     return ids;
 }
 
-void drawShapes(benchmark::State& state)
+template <typename Target>
+void drawShapesBy(benchmark::State& state, Target& target)
 {
-    MapViewLayerManager& target = manager();
     for (auto _ : state) {
         const auto ids = draw(target, int(state.range(0)));
         state.PauseTiming();
@@ -73,6 +90,16 @@ void drawShapes(benchmark::State& state)
         QCoreApplication::processEvents();
         state.ResumeTiming();
     }
+}
+
+void drawShapes(benchmark::State& state)
+{
+    drawShapesBy(state, manager());
+}
+
+void drawShapesNaive(benchmark::State& state)
+{
+    drawShapesBy(state, naiveManager());
 }
 
 void drawShapesByTheClient(benchmark::State& state)
@@ -121,6 +148,7 @@ void removeShapes(benchmark::State& state)
 } // namespace
 
 BENCHMARK(drawShapes)->Arg(10000);
+BENCHMARK(drawShapesNaive)->Arg(10000)->Iterations(1);
 BENCHMARK(drawShapesByTheClient)->Arg(10000);
 BENCHMARK(removeShapes)->Arg(1000)->Arg(10000);
 
