@@ -2,6 +2,7 @@
 
 #include "editorpane.h"
 #include "fieldfocus.h"
+#include "frequencypane.h"
 #include "problemspane.h"
 #include "recoverydialog.h"
 #include "resourcepane.h"
@@ -170,7 +171,10 @@ void EditorWindow::buildDocks()
     auto* const resources = new ResourcePane(m_session, this);
     QDockWidget* const receivers = add(QStringLiteral("resourcesDock"), tr("Receivers"), resources);
     QDockWidget* const trace = add(QStringLiteral("traceDock"), tr("Messages"), new TracePane(this));
-    tabifyDockWidget(problems, receivers);
+    auto* const frequencies = new FrequencyPane(m_session, this);
+    QDockWidget* const strip = add(QStringLiteral("frequenciesDock"), tr("Frequencies"), frequencies);
+    tabifyDockWidget(problems, strip);
+    tabifyDockWidget(strip, receivers);
     tabifyDockWidget(receivers, trace);
     m_rules = new RulesPane(m_session, this);
     QDockWidget* const rules = add(QStringLiteral("rulesDock"), tr("Rules"), m_rules);
@@ -184,6 +188,8 @@ void EditorWindow::buildDocks()
     connect(m_rules, &RulesPane::faultCountChanged, this, [rules](int count) {
         rules->setWindowTitle(count == 0 ? tr("Rules") : tr("Rules (%1 failed)").arg(count));
     });
+    connect(frequencies, &FrequencyPane::fieldChosen, this, &EditorWindow::showField);
+    connect(frequencies, &FrequencyPane::subjobChosen, m_tree, &TreePane::setCurrentSubjob);
     connect(m_problems, &ProblemsPane::countChanged, this, [problems](int count) {
         problems->setWindowTitle(count == 0 ? tr("Problems") : tr("Problems (%1)").arg(count));
     });

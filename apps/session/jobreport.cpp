@@ -21,20 +21,13 @@ class Texts
     Q_DECLARE_TR_FUNCTIONS(Session::JobReport)
 };
 
-QString keyOf(const JobXml::Subjob& subjob)
-{
-    const JobXml::ResourceDescription& resource = subjob.GetResourceDescription();
-    return JobXml::ResourceDescription::TypeToName(resource.GetType()) + QLatin1Char('/') +
-           resource.GetBaseResource();
-}
-
 // Looks at one sub-job and tells what is wrong with it.
 class SubjobChecker
 {
 public:
     SubjobChecker(const QString& file, int number, const JobXml::Subjob& subjob, Session::Findings* findings)
         : m_file(file)
-        , m_title(Texts::tr("sub-job %1, %2").arg(QString::number(number), keyOf(subjob)))
+        , m_title(Texts::tr("sub-job %1, %2").arg(QString::number(number), Session::resourceKey(subjob)))
         , m_subjob(subjob)
         , m_findings(findings)
     {
@@ -45,14 +38,14 @@ public:
         QStringList keys;
         for (const auto& resource : resources) {
             keys.append(Session::resourceKey(*resource));
-            if (keys.last() == keyOf(m_subjob)) {
+            if (keys.last() == Session::resourceKey(m_subjob)) {
                 checkStartupMode(Session::startupModes(*resource, jobType));
                 checkSets(*resource);
                 return;
             }
         }
         warn(Texts::tr("the installation does not offer this receiver"),
-             JobXml::suggestion(keyOf(m_subjob), keys).trimmed());
+             JobXml::suggestion(Session::resourceKey(m_subjob), keys).trimmed());
     }
 
 private:
@@ -100,7 +93,7 @@ private:
         ParameterSetText::fromText(*node, carried.xml, &report);
         for (const QString& id : report.textsNotConverted + report.valuesClamped)
             warn(Texts::tr("%1/%2 does not fit the receiver").arg(name, id),
-                 Texts::tr("jedtool resources show %1 tells what does.").arg(keyOf(m_subjob)));
+                 Texts::tr("jedtool resources show %1 tells what does.").arg(Session::resourceKey(m_subjob)));
         if (report.isClean() && !holds(ParameterSetText::toText(*node, carried.xml), carried))
             warn(Texts::tr("%1 does not come back from the value tree as it was").arg(name));
     }

@@ -244,28 +244,10 @@ void writeGroups(const QVector<OutlineRow>& rows, Page* page)
         page->endTable();
 }
 
-QString keyOf(const JobXml::ResourceDescription& receiver)
-{
-    return JobXml::ResourceDescription::TypeToName(receiver.GetType()) + QLatin1Char('/') +
-           receiver.GetBaseResource();
-}
-
-// Null if the installation does not offer it.
-const JEDVEPLUGIN::ResourceDescription* receiverOf(const JobXml::Subjob& subjob,
-                                                   const Session::JobComposer::Resources& resources)
-{
-    const QString key = keyOf(subjob.GetResourceDescription());
-    for (const auto& resource : resources) {
-        if (Session::resourceKey(*resource) == key)
-            return resource.get();
-    }
-    return nullptr;
-}
-
 // "Airband scan (TRV9KScanSettings/VUHF-1)", by the name that the installation gives it.
 QString receiverText(const JobXml::Subjob& subjob, const JEDVEPLUGIN::ResourceDescription* receiver)
 {
-    const QString key = keyOf(subjob.GetResourceDescription());
+    const QString key = Session::resourceKey(subjob);
     return receiver ? Texts::tr("%1 (%2)").arg(receiver->getName(), key)
                     : Texts::tr("%1, which the installation does not offer").arg(key);
 }
@@ -279,7 +261,7 @@ void writeSubjob(const JobSession& session, int index, const Session::JobCompose
     const QString title = titleOf(subjob.GetName(), Texts::tr("Sub-job"));
     page->heading(2, Texts::tr("%1. %2").arg(QString::number(index + 1), title));
 
-    const JEDVEPLUGIN::ResourceDescription* const receiver = receiverOf(subjob, resources);
+    const JEDVEPLUGIN::ResourceDescription* const receiver = Session::receiverOf(subjob, resources);
     JobXml::Subjob rest = subjob;
     rest.ResetName();
     rest.ResetSettings();

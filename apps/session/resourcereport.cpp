@@ -263,4 +263,22 @@ QString resourceKey(const ResourceDescription& description)
     return description.getType() + QLatin1Char('/') + description.getBaseResource();
 }
 
+QString resourceKey(const JobXml::Subjob& subjob)
+{
+    const JobXml::ResourceDescription& receiver = subjob.GetResourceDescription();
+    return JobXml::ResourceDescription::TypeToName(receiver.GetType()) + QLatin1Char('/') +
+           receiver.GetBaseResource();
+}
+
+const ResourceDescription* receiverOf(const JobXml::Subjob& subjob,
+                                      const QList<std::shared_ptr<ResourceDescription>>& resources)
+{
+    const QString key = resourceKey(subjob);
+    for (const auto& resource : resources) {
+        if (resourceKey(*resource) == key)
+            return resource.get();
+    }
+    return nullptr;
+}
+
 } // namespace Session

@@ -10,6 +10,10 @@
 #include <QStringList>
 #include <resourcedescription.h>
 
+namespace JobXml {
+class Subjob;
+}
+
 /// What is in an installation's tuner property files, and what is wrong with them.
 namespace Session {
 
@@ -47,5 +51,12 @@ QStringList startupModes(const JEDVEPLUGIN::ResourceDescription& description, JE
 
 /// "TYPE/BASE", the name of a resource on command lines and in scenarios.
 QString resourceKey(const JEDVEPLUGIN::ResourceDescription& description);
+/// The same of the receiver that a sub-job names.
+QString resourceKey(const JobXml::Subjob& subjob);
+
+/// The receiver that a sub-job names, null if it is not among \p resources. Theirs.
+const JEDVEPLUGIN::ResourceDescription*
+receiverOf(const JobXml::Subjob& subjob,
+           const QList<std::shared_ptr<JEDVEPLUGIN::ResourceDescription>>& resources);
 
 } // namespace Session
