@@ -376,6 +376,10 @@ Anlage: %3</translation>
         <source>, </source>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Frequencies</source>
+        <translation>Frequenzen</translation>
+    </message>
 </context>
 <context>
     <name>FreqStoreXml::FileHandling</name>
@@ -386,6 +390,52 @@ Anlage: %3</translation>
     <message>
         <source>line %1: %2</source>
         <translation>Zeile %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FrequencyPane</name>
+    <message>
+        <source>&amp;Logarithmic</source>
+        <translation>&amp;Logarithmisch</translation>
+    </message>
+    <message>
+        <source>Equal factors instead of equal distances along the axis</source>
+        <translation>Gleiche Faktoren statt gleicher Abstände auf der Achse</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Show less of the axis, larger (+)</source>
+        <translation>Weniger von der Achse zeigen, größer (+)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Show more of the axis (-)</source>
+        <translation>Mehr von der Achse zeigen (-)</translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation>&amp;Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Show the whole axis (0)</source>
+        <translation>Die ganze Achse zeigen (0)</translation>
+    </message>
+</context>
+<context>
+    <name>FrequencyStrip</name>
+    <message>
+        <source>Frequencies of the job</source>
+        <translation>Frequenzen des Auftrags</translation>
+    </message>
+    <message>
+        <source>Each sub-job has a band. Its bars are the frequencies that it works at; the hatched bars below them are what its receiver covers.</source>
+        <translation>Jeder Teilauftrag hat ein Band. Seine Balken sind die Frequenzen, auf denen er arbeitet; die schraffierten darunter sind das, was sein Empfänger abdeckt.</translation>
     </message>
 </context>
 <context>
@@ -4724,6 +4774,37 @@ Anlage: %3</translation>
     <message>
         <source>It must have entries, and either all of them tuner settings or all of them short-time settings.</source>
         <translation>Sie muss Einträge haben, und entweder alle mit Tuner-Einstellungen oder alle mit Kurzzeiteinstellungen.</translation>
+    </message>
+</context>
+<context>
+    <name>Session::FrequencyModel</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: the receiver covers %2</source>
+        <translation>%1: der Empfänger deckt %2 ab</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3, %4</source>
+        <translation>%1: %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>The installation does not offer the receiver</source>
+        <translation>Die Anlage hat den Empfänger nicht</translation>
+    </message>
+    <message>
+        <source>%1: covered by the receiver</source>
+        <translation>%1: vom Empfänger abgedeckt</translation>
+    </message>
+    <message>
+        <source>from %1 Hz to %2 Hz, %3 wide</source>
+        <translation>von %1 Hz bis %2 Hz, Breite %3</translation>
     </message>
 </context>
 <context>
