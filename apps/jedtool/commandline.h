@@ -7,6 +7,13 @@
 #include <QVector>
 #include <session/finding.h>
 
+namespace JEDVEPLUGIN {
+class JEDSubSettingFactory;
+}
+namespace Session {
+class PluginHost;
+}
+
 /// The frame of jedtool: nouns with verbs, their options, help and exit codes. A noun is a table in a source file of
 /// its own.
 namespace JedTool {
@@ -80,6 +87,8 @@ ExitCode runCommandLine(const QStringList& arguments);
 
 /// The folders with plug-ins: those of the options "plugin-dir", then the usual ones.
 QStringList pluginFolders(const Invocation& invocation);
+/// The plug-in of that name; null, which is told on the error output, if there is none.
+JEDVEPLUGIN::JEDSubSettingFactory* namedPlugin(const Session::PluginHost& host, const QString& name);
 
 /// Writes to the standard output.
 void print(const QString& text);

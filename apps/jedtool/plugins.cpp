@@ -173,17 +173,9 @@ ExitCode inspect(const Invocation& invocation)
 {
     PluginHost host;
     host.load(pluginFolders(invocation));
-    const QString wanted = invocation.arguments.value(0);
-    JEDSubSettingFactory* const factory = host.factory(wanted);
-    if (!factory) {
-        QStringList names;
-        for (const JEDSubSettingFactory* present : host.factories())
-            names.append(present->getName());
-        printError(Texts::tr("jedtool: no plug-in is called \"%1\".%2")
-                       .arg(wanted, JobXml::suggestion(wanted, names)));
-        printError(Texts::tr("Next: jedtool plugin list"));
+    JEDSubSettingFactory* const factory = namedPlugin(host, invocation.arguments.value(0));
+    if (!factory)
         return USAGE;
-    }
     if (invocation.isJson)
         printJson(QJsonDocument(inspectionToJson(factory)));
     else
@@ -200,6 +192,19 @@ QStringList pluginFolders(const Invocation& invocation)
             folders.append(option.second);
     }
     return folders + PluginHost::defaultFolders();
+}
+
+JEDSubSettingFactory* namedPlugin(const PluginHost& host, const QString& name)
+{
+    if (JEDSubSettingFactory* const factory = host.factory(name))
+        return factory;
+    QStringList names;
+    for (const JEDSubSettingFactory* present : host.factories())
+        names.append(present->getName());
+    printError(
+        Texts::tr("jedtool: no plug-in is called \"%1\".%2").arg(name, JobXml::suggestion(name, names)));
+    printError(Texts::tr("Next: jedtool plugin list"));
+    return nullptr;
 }
 
 Noun pluginNoun()

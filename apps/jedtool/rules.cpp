@@ -1,41 +1,107 @@
 #include "ruletrace.h"
 
+#include <jedsubsettingfactory.h>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <session/pluginhost.h>
+#include <session/pluginrules.h>
 #include <session/rulecheck.h>
 #include <session/rulefindings.h>
+#include <session/savefile.h>
 
 namespace JedTool {
 
 namespace {
 const char* const CHECK_DETAILS = QT_TRANSLATE_NOOP(
-    "jedtool", "Looks at a rule script as its author should. Each finding has a number; \"jedtool rules "
-               "findings\" explains them.\n\n"
-               "Example:  jedtool rules check installation/Rules/search.js\n"
-               "Next:     mend what is named, then check again\n");
+    "jedtool",
+    "Looks at a rule script as its author should: at its syntax, then at each rule, which is run for each "
+    "value "
+    "of its trigger\n"
+    "with recorders in place of the objects. With --plugin these are the objects that the plug-in registers "
+    "for "
+    "each receiver;\n"
+    "with --objects those of a list, a line like \"float Gain 30 -30 130\" or \"selection Mode AM AM=1 "
+    "FM=2\" "
+    "each; else the script\n"
+    "itself has to tell what they are. Notes tell what could not be tried. Each finding has a number, which "
+    "\"jedtool rules findings\"\n"
+    "explains.\n\n"
+    "Examples: jedtool rules check installation/Rules/search.js --plugin Search\n"
+    "          jedtool rules check rules.js --objects objects.txt --format json\n"
+    "Next:     mend what is named, then check again\n");
 const char* const FINDINGS_DETAILS = QT_TRANSLATE_NOOP(
     "jedtool", "Explains the numbers of findings: what each is about, why, and what to do. With "
                "--markdown as the guide has them.\n\n"
                "Example:  jedtool rules findings\n");
+
+const Option PLUGIN = {"plugin", "NAME",
+                       QT_TRANSLATE_NOOP("jedtool", "the objects of this plug-in's settings")};
+const Option PLUGIN_DIR = {"plugin-dir", "DIR",
+                           QT_TRANSLATE_NOOP("jedtool", "a further folder with plug-ins")};
+const Option OBJECTS = {"objects", "LIST",
+                        QT_TRANSLATE_NOOP("jedtool", "the objects of this list instead of a plug-in's")};
 
 void printJson(const QJsonDocument& document)
 {
     print(QString::fromUtf8(document.toJson()));
 }
 
+// The objects that the command line names; false, which is told, if there are none.
+bool readScopes(const Invocation& invocation, QVector<Session::RuleScope>* scopes)
+{
+    if (invocation.isSet(QLatin1String(OBJECTS.name))) {
+        const QString path = invocation.value(QLatin1String(OBJECTS.name));
+        QByteArray content;
+        QString error;
+        scopes->append(Session::RuleScope());
+        if (Session::readFile(path, &content, &error) &&
+            Session::readRuleObjects(Session::decodedText(content), &scopes->first(), &error))
+            return true;
+        printError(Texts::tr("jedtool: %1: %2").arg(path, error));
+        printError(Texts::tr("Next: jedtool rules check --help"));
+        return false;
+    }
+    if (!invocation.isSet(QLatin1String(PLUGIN.name)))
+        return true;
+    Session::PluginHost host;
+    host.load(pluginFolders(invocation));
+    JEDVEPLUGIN::JEDSubSettingFactory* const factory =
+        namedPlugin(host, invocation.value(QLatin1String(PLUGIN.name)));
+    if (!factory)
+        return false;
+    *scopes = Session::pluginRuleScopes(factory, invocation.arguments.first());
+    if (scopes->isEmpty())
+        printError(Texts::tr("jedtool: the plug-in %1 has no rules on the receivers of the installation")
+                       .arg(factory->getName()));
+    return !scopes->isEmpty();
+}
+
+QString summary(const QString& path, const Session::RuleCheck& result)
+{
+    const QString tried =
+        Texts::tr("rules: %1, runs: %2").arg(QString::number(result.rules), QString::number(result.runs));
+    if (!Session::needsAttention(result.findings))
+        return Texts::tr("%1: clean, %2\n").arg(path, tried);
+    return Texts::tr("%1: findings: %2, %3\n").arg(path, QString::number(result.findings.size()), tried);
+}
+
 ExitCode check(const Invocation& invocation)
 {
     const QString path = invocation.arguments.first();
-    const Session::RuleCheck result = Session::checkRules(path);
+    QVector<Session::RuleScope> scopes;
+    if (!readScopes(invocation, &scopes))
+        return USAGE;
+    const Session::RuleCheck result = Session::checkRules(path, scopes);
     if (invocation.isJson) {
         printJson(QJsonDocument(QJsonObject{{QStringLiteral("file"), path},
-                                            {QStringLiteral("findings"), Session::toJson(result.findings)}}));
+                                            {QStringLiteral("rules"), result.rules},
+                                            {QStringLiteral("runs"), result.runs},
+                                            {QStringLiteral("findings"), Session::toJson(result.findings)},
+                                            {QStringLiteral("notes"), Session::toJson(result.notes)}}));
     } else {
-        for (const Session::Finding& finding : result.findings)
+        for (const Session::Finding& finding : result.findings + result.notes)
             print(finding.toText() + QLatin1Char('\n'));
-        print(Session::needsAttention(result.findings)
-                  ? Texts::tr("%1: findings: %2\n").arg(path, QString::number(result.findings.size()))
-                  : Texts::tr("%1: clean\n").arg(path));
+        print(summary(path, result));
     }
     return Session::needsAttention(result.findings) ? FINDINGS : CLEAN;
 }
@@ -57,12 +123,12 @@ Noun rulesNoun()
             QT_TRANSLATE_NOOP("jedtool", "rule scripts"),
             {
                 {"check",
-                 "FILE",
+                 "FILE [--plugin NAME | --objects LIST]",
                  QT_TRANSLATE_NOOP("jedtool", "check a rule script"),
                  CHECK_DETAILS,
                  1,
                  1,
-                 {},
+                 {PLUGIN, PLUGIN_DIR, OBJECTS},
                  check,
                  nullptr},
                 ruleTraceVerb(),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "finding.h"
+#include "ruleobject.h"
 
 namespace Session {
 
@@ -8,10 +9,15 @@ namespace Session {
 struct RuleCheck
 {
     Findings findings; ///< in order of their lines, with codes of the table in rulefindings.h
+    Findings notes;    ///< what could not be tried
+    int rules = 0;     ///< functions that objects run
+    int runs = 0;      ///< how often rules were run to try them
 };
 
-/// Looks at a rule script as its author should. GUI thread only.
-/// \param file  path of the script, which findings name
-RuleCheck checkRules(const QString& file);
+/// Looks at a rule script as its author should: at its syntax, then at each of its rules, run with recorders in place of
+/// the objects. No value of anybody is changed. GUI thread only.
+/// \param file    path of the script, which findings name
+/// \param scopes  the objects of the settings that the script is for; empty: what the script itself lets guess
+RuleCheck checkRules(const QString& file, const QVector<RuleScope>& scopes);
 
 } // namespace Session

@@ -48,6 +48,8 @@ const QVector<RuleFindingKind> KINDS{
     {RuleFinding::TOO_FEW_ARGUMENTS, Finding::FAILURE, "Too few arguments",
      "A method that is called with fewer arguments than it has throws, which ends the rule.",
      "Give all arguments of the method."},
+    {RuleFinding::PARAMETERS, Finding::WARNING, "Rule function with a parameter",
+     "Rule functions are called without arguments.", "Read the value from the object that was changed."},
 
     {RuleFinding::LOST_WRITE, Finding::FAILURE, "Write to a property that does not exist",
      "The engine makes a script property of that name; the value of the setting stays as it is.",

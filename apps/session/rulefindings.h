@@ -20,6 +20,7 @@ enum class RuleFinding {
     EXCEPTION = 14,
     ENDLESS = 15,
     TOO_FEW_ARGUMENTS = 16,
+    PARAMETERS = 17,
 
     LOST_WRITE = 20,
     OBJECT_REPLACED = 21,

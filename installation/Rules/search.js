@@ -8,13 +8,14 @@ var BANDWIDTHS = {AM: 9000, FM: 15000, USB: 2700, LSB: 2700, ISB: 6000, CW: 500}
 // The bandwidth follows the demodulation.
 function ADemSettings_Demodulation_changed() {
     var bandwidth = BANDWIDTHS[ADemSettings_Demodulation.GetCurrentName()];
-    if (bandwidth !== undefined)
+    if (bandwidth !== undefined && ADemSettings_Bandwidth.GetItemName(bandwidth) !== "")
         ADemSettings_Bandwidth.SelectItemByIndex(bandwidth);
 }
 
-// A scan looks at no more than its steps are wide.
+// A scan looks at no more than its steps are wide. Their width is a choice on some receivers, a number on others.
 function ScanSettings_Range_StepWidth_changed() {
-    var step = ScanSettings_Range_StepWidth.GetCurrentValue();
+    var isNumber = "floatValue" in ScanSettings_Range_StepWidth;
+    var step = isNumber ? ScanSettings_Range_StepWidth.floatValue : ScanSettings_Range_StepWidth.GetCurrentValue();
     if (step > 0)
         ScanSettings_Range_Bandwidth.floatValue = step;
 }

@@ -61,6 +61,8 @@ void TstJedtool::init()
     for (const QString name : {"outdated-number.xml", "no-version.xml"})
         QVERIFY(QFile::copy(data + "tuner/" + name, m_folder->filePath("outdated/TemplateFolder/" + name)));
     QVERIFY(copyFiles(data + "jobs", m_folder->filePath("jobs")));
+    QVERIFY(copyFiles(data + "rules/wrong", m_folder->filePath("scripts")));
+    QVERIFY(QFile::copy(data + "rules/objects.txt", m_folder->filePath("scripts/objects.txt")));
     QVERIFY(copyFiles(data + "rules/trace", m_folder->filePath("rules")));
     QVERIFY(copyFiles(data + "lists", m_folder->filePath("lists")));
 }
@@ -161,6 +163,18 @@ void TstJedtool::output_data()
     QTest::newRow("plugin") << QStringList{"plugin list --plugin-dir jobs", "plugin inspect search",
                                            "plugin inspect Production --format json", "plugin inspect serch"};
     QTest::newRow("rules-findings") << QStringList{"rules findings", "rules findings --markdown"};
+    QTest::newRow("rules-check") << QStringList{
+        "rules check scripts/many-at-once.js --objects scripts/objects.txt",
+        "rules check scripts/many-at-once.js --objects scripts/objects.txt --format json",
+        "rules check scripts/let-and-arrow.js",
+        "rules check scripts/open-bracket.js",
+        "rules check scripts/loop-without-an-end.js",
+        "rules check scripts/object-mistyped.js --plugin search",
+        "rules check none.js",
+        "rules check scripts/many-at-once.js --objects none.txt",
+        "rules check scripts/many-at-once.js --objects scripts/counter.js",
+        "rules check scripts/many-at-once.js --plugin serch",
+        "rules check scripts/many-at-once.js --plugin production"};
     const QString trace = "rules trace rules/nested.js --plugin search ";
     const QString hf = "--resource HT720/HF-1 ";
     QTest::newRow("rules-trace") << QStringList{

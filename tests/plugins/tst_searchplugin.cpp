@@ -352,6 +352,11 @@ void TstSearchPlugin::rulesFollowChanges_data()
                                             << "12500"
                                             << "ScanSettings/Range.Bandwidth"
                                             << "12500";
+    QTest::newRow("bandwidth follows step in hertz") << "DirectionFinder/DF-HF"
+                                                     << "ScanSettings/Range.StepWidth"
+                                                     << "2000"
+                                                     << "ScanSettings/Range.Bandwidth"
+                                                     << "2000";
     QTest::newRow("bandwidth follows demodulation") << "HT720/HF-1"
                                                     << "ADemSettings/Demodulation"
                                                     << "CW"

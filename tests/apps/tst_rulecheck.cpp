@@ -1,0 +1,194 @@
+#include <QDirIterator>
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <scriptableboolean.h>
+#include <scriptablenumericfloat.h>
+#include <scriptablenumericint.h>
+#include <scriptablenumericint64.h>
+#include <scriptableselection.h>
+#include <scriptablestring.h>
+#include <session/rulecheck.h>
+#include <session/rulefindings.h>
+#include <session/rulerecorder.h>
+#include <session/savefile.h>
+
+using Session::Finding;
+using Session::RuleCheck;
+using Session::RuleObject;
+using Session::RuleScope;
+
+// Scripts of tests/data/rules: those in "correct" give no finding, those in "wrong" the ones of its findings.txt.
+
+namespace {
+const char* const RULES = JED_SOURCE_DIR "/tests/data/rules/";
+constexpr int FEWEST_SCRIPTS = 40;
+
+QString textOf(const QString& file)
+{
+    QByteArray content;
+    return Session::readFile(file, &content, nullptr) ? Session::decodedText(content) : QString();
+}
+
+QStringList scriptsOf(const QString& folder)
+{
+    return QDir(RULES + folder).entryList({"*.js"}, QDir::Files, QDir::Name);
+}
+
+// The objects of a script: of a list beside it, or those of all.
+QVector<RuleScope> objectsFor(const QString& script)
+{
+    const QString own = QString(script).replace(".js", ".txt");
+    RuleScope scope;
+    QString error;
+    if (!Session::readRuleObjects(textOf(QFile::exists(own) ? own : RULES + QString("objects.txt")), &scope,
+                                  &error))
+        qFatal("%s", qPrintable(error));
+    return {scope};
+}
+
+// "R12@5", in the order of the table of expectations: by line, then by number.
+QStringList codesOf(const RuleCheck& check)
+{
+    QStringList result;
+    for (const Finding& finding : check.findings)
+        result.append(QString("%1@%2").arg(finding.code, QString::number(finding.line)));
+    result.sort();
+    return result;
+}
+
+QStringList linesOf(const Session::Findings& findings)
+{
+    QStringList result;
+    for (const Finding& finding : findings)
+        result.append(finding.toText().section('\n', 0, 0));
+    return result;
+}
+
+// The script's name to the findings that it must give.
+QMap<QString, QStringList> expectations()
+{
+    QMap<QString, QStringList> result;
+    for (const QString& line : textOf(RULES + QString("wrong/findings.txt")).split('\n')) {
+        if (!line.startsWith('#') && line.contains(": "))
+            result.insert(line.section(": ", 0, 0), line.section(": ", 1).split(' '));
+    }
+    return result;
+}
+} // namespace
+
+Q_DECLARE_METATYPE(const QMetaObject*)
+
+class TstRuleCheck : public QObject
+{
+    Q_OBJECT
+private slots:
+    void correctScripts_data();
+    void correctScripts();
+    void wrongScripts_data();
+    void wrongScripts();
+    void everyFindingHasAScript();
+    void recordersAreLikeTheObjects_data();
+    void recordersAreLikeTheObjects();
+    void theGuideHasTheTable();
+};
+
+void TstRuleCheck::correctScripts_data()
+{
+    QTest::addColumn<QString>("script");
+    const QStringList scripts = scriptsOf("correct");
+    QVERIFY(scripts.size() >= FEWEST_SCRIPTS);
+    for (const QString& script : scripts)
+        QTest::newRow(qPrintable(script)) << script;
+}
+
+void TstRuleCheck::correctScripts()
+{
+    QFETCH(QString, script);
+    const QString path = RULES + QString("correct/") + script;
+    const RuleCheck check = Session::checkRules(path, objectsFor(path));
+    QCOMPARE(linesOf(check.findings), QStringList());
+    QVERIFY(check.rules > 0);
+    QVERIFY(check.runs > 1);
+}
+
+void TstRuleCheck::wrongScripts_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QStringList>("findings");
+    const QMap<QString, QStringList> expected = expectations();
+    QCOMPARE(scriptsOf("wrong"), QStringList(expected.keys()));
+    QVERIFY(expected.size() >= FEWEST_SCRIPTS);
+    for (auto it = expected.cbegin(); it != expected.cend(); ++it)
+        QTest::newRow(qPrintable(it.key())) << it.key() << it.value();
+}
+
+void TstRuleCheck::wrongScripts()
+{
+    QFETCH(QString, script);
+    QFETCH(QStringList, findings);
+    const QString path = RULES + QString("wrong/") + script;
+    const RuleCheck check = Session::checkRules(path, objectsFor(path));
+    findings.sort();
+    QVERIFY2(codesOf(check) == findings, qPrintable(linesOf(check.findings).join('\n')));
+}
+
+void TstRuleCheck::everyFindingHasAScript()
+{
+    QSet<QString> shown{"R01"}; // A file that is not there.
+    for (const QStringList& codes : expectations()) {
+        for (const QString& code : codes)
+            shown.insert(code.section('@', 0, 0));
+    }
+    QStringList without;
+    for (const Session::RuleFindingKind& kind : Session::ruleFindingKinds()) {
+        if (!shown.remove(kind.code()))
+            without.append(kind.code());
+    }
+    QCOMPARE(without, QStringList());
+    QCOMPARE(QStringList(shown.values()), QStringList());
+    const RuleCheck missing = Session::checkRules(RULES + QString("none.js"), {});
+    QCOMPARE(codesOf(missing), QStringList("R01@0"));
+}
+
+void TstRuleCheck::recordersAreLikeTheObjects_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<const QMetaObject*>("object");
+    const QVector<QPair<RuleObject::Kind, const QMetaObject*>> kinds{
+        {RuleObject::BOOLEAN, &JEDVEPLUGIN::ScriptableBoolean::staticMetaObject},
+        {RuleObject::FLOAT, &JEDVEPLUGIN::ScriptableNumericFloat::staticMetaObject},
+        {RuleObject::INT, &JEDVEPLUGIN::ScriptableNumericInt::staticMetaObject},
+        {RuleObject::INT64, &JEDVEPLUGIN::ScriptableNumericInt64::staticMetaObject},
+        {RuleObject::SELECTION, &JEDVEPLUGIN::ScriptableSelection::staticMetaObject},
+        {RuleObject::STRING, &JEDVEPLUGIN::ScriptableString::staticMetaObject},
+    };
+    for (const auto& kind : kinds)
+        QTest::newRow(kind.second->className()) << int(kind.first) << kind.second;
+}
+
+void TstRuleCheck::recordersAreLikeTheObjects()
+{
+    QFETCH(int, kind);
+    QFETCH(const QMetaObject*, object);
+    QStringList expected;
+    for (int i = object->propertyOffset(); i < object->propertyCount(); ++i)
+        expected.append(QString::fromLatin1(object->property(i).name()));
+    for (int i = object->methodOffset(); i < object->methodCount(); ++i)
+        expected.append(QString::fromLatin1(object->method(i).name()));
+    QStringList members = Session::RuleRecorder::members(RuleObject::Kind(kind));
+    expected.sort();
+    members.sort();
+    QCOMPARE(members, expected);
+    QCOMPARE("JEDVEPLUGIN::" + Session::RuleRecorder::className(RuleObject::Kind(kind)),
+             QString::fromLatin1(object->className()));
+}
+
+void TstRuleCheck::theGuideHasTheTable()
+{
+    QVERIFY2(
+        textOf(JED_SOURCE_DIR "/docs/integrator-guide/rules.md").contains(Session::ruleFindingsMarkdown()),
+        "put what \"jedtool rules findings --markdown\" prints into the guide");
+}
+
+QTEST_GUILESS_MAIN(TstRuleCheck)
+#include "tst_rulecheck.moc"

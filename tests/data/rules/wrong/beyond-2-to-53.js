@@ -1,0 +1,3 @@
+function MaximumSize_changed() {
+    MaximumSize.floatValue = MaximumSize.floatValue - 1;
+}

@@ -1,0 +1,3 @@
+function Frequency_changed() {
+    Counter.value = Frequency.floatValue * 1000;
+}

@@ -1,0 +1,3 @@
+function Muted_changed() {
+    for (;;) ;
+}

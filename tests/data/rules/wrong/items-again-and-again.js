@@ -1,0 +1,3 @@
+function Squelch_changed() {
+    Antenna.AddItemToSelection(12, "Second loop", 1.5);
+}

@@ -1,0 +1,3 @@
+function Squelch_changed() {
+    Bandwidth.SelectItemByIndex(6000);
+}

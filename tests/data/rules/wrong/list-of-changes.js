@@ -1,0 +1,5 @@
+var changes = [];
+function Mode_changed() {
+    changes.push(Mode.GetCurrentName());
+    Comment.stringValue = changes.join(" ");
+}

@@ -1,0 +1,3 @@
+function gain_changed() {
+    Level.floatValue = 5;
+}

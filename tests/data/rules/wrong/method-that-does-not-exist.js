@@ -1,0 +1,4 @@
+function Mode_changed() {
+    if (Mode.GetCurrentText() === "Panorama")
+        Span.floatValue = 200000;
+}

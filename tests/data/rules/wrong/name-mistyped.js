@@ -1,0 +1,3 @@
+function Demodulaton_changed() {
+    Squelch.boolValue = Demodulation.GetCurrentName() === "FM";
+}

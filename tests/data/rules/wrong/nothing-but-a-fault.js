@@ -1,0 +1,1 @@
+var start = Frequency.floatMaximum.toFixed(0);

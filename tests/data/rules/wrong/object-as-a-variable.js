@@ -1,0 +1,3 @@
+function Mode_changed() {
+    Gain = 5;
+}

@@ -1,0 +1,3 @@
+function Gain_changed() {
+    Levl.floatValue = 5;
+}

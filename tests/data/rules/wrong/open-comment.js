@@ -1,0 +1,5 @@
+var a = 1;
+/* what follows
+function Mode_changed() {
+    Comment.stringValue = "watch";
+}

@@ -1,0 +1,3 @@
+function Mode_changed() {
+    Comment.stringValue = "watch;
+}

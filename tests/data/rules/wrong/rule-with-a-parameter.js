@@ -1,0 +1,3 @@
+function Gain_changed(gain) {
+    Squelch.boolValue = gain > 10;
+}

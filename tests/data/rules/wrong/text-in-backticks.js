@@ -1,0 +1,4 @@
+function Gain_changed() {
+    Comment.stringValue = `gain ${Gain.floatValue}
+        and more`;
+}

@@ -1,0 +1,3 @@
+function Mode_changed() {
+    Antenna.AddItemToSelection(14, "Reserve");
+}

@@ -1,0 +1,3 @@
+function Gain_changed() {
+    Level.floatValue = 3 * / 4;
+}

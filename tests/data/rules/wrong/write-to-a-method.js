@@ -1,0 +1,3 @@
+function Mode_changed() {
+    Mode.GetCurrentIndex = 2;
+}

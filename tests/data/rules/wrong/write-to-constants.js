@@ -1,0 +1,4 @@
+function Mode_changed() {
+    Math.PI = 3;
+    undefined = null;
+}
