@@ -380,6 +380,18 @@ Anlage: %3</translation>
         <source>Frequencies</source>
         <translation>Frequenzen</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importieren...</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Choose the sub-job that is to have the frequencies of a list. It must have a tuner.</source>
+        <translation>Wählen Sie den Teilauftrag, der die Frequenzen einer Liste erhalten soll. Er muss einen Tuner haben.</translation>
+    </message>
 </context>
 <context>
     <name>FreqStoreXml::FileHandling</name>
@@ -436,6 +448,92 @@ Anlage: %3</translation>
     <message>
         <source>Each sub-job has a band. Its bars are the frequencies that it works at; the hatched bars below them are what its receiver covers.</source>
         <translation>Jeder Teilauftrag hat ein Band. Seine Balken sind die Frequenzen, auf denen er arbeitet; die schraffierten darunter sind das, was sein Empfänger abdeckt.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation>&amp;Auswählen...</translation>
+    </message>
+    <message>
+        <source>Import into %1</source>
+        <translation>In %1 importieren</translation>
+    </message>
+    <message>
+        <source>&amp;List:</source>
+        <translation>&amp;Liste:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>Entries of the list</source>
+        <translation>Einträge der Liste</translation>
+    </message>
+    <message>
+        <source>Import a list</source>
+        <translation>Liste importieren</translation>
+    </message>
+    <message>
+        <source>Lists of frequencies (*.xml *.csv *.json);;All files (*)</source>
+        <translation>Frequenzlisten (*.xml *.csv *.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Choose a list of frequencies.</source>
+        <translation>Wählen Sie eine Frequenzliste.</translation>
+    </message>
+    <message>
+        <source>The list is refused: %1</source>
+        <translation>Die Liste wird abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>Entries to be imported: %1, refused: %2</source>
+        <translation>Zu importierende Einträge: %1, abgelehnt: %2</translation>
+    </message>
+    <message>
+        <source>Left out, since there is no place for it: %1</source>
+        <translation>Ausgelassen, da es keinen Platz dafür gibt: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1</source>
+        <translation>Nichts wurde importiert: %1</translation>
+    </message>
+    <message>
+        <source>The plug-in took %1 of %2 entries.</source>
+        <translation>Das Plug-in hat %1 von %2 Einträgen übernommen.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportModel</name>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>In the list</source>
+        <translation>In der Liste</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>Wird zu</translation>
     </message>
 </context>
 <context>
@@ -5080,6 +5178,10 @@ beantwortet: %3
         <source>is kept as it is but cannot be edited</source>
         <translation>bleibt, wie er ist, lässt sich aber nicht bearbeiten</translation>
     </message>
+    <message>
+        <source>Import into %1</source>
+        <translation>In %1 importieren</translation>
+    </message>
 </context>
 <context>
     <name>Session::JobSummary</name>
@@ -5227,6 +5329,25 @@ beantwortet: %3
     <message>
         <source>The job has no sub-jobs.</source>
         <translation>Der Auftrag hat keine Teilaufträge.</translation>
+    </message>
+</context>
+<context>
+    <name>Session::ListPreview</name>
+    <message>
+        <source>the list has no entries</source>
+        <translation>die Liste hat keine Einträge</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Frequency-store list</source>
+        <translation>Frequenzspeicherliste</translation>
+    </message>
+    <message>
+        <source>the plug-in takes nothing of it</source>
+        <translation>das Plug-in übernimmt nichts davon</translation>
     </message>
 </context>
 <context>
@@ -5462,6 +5583,10 @@ beantwortet: %3
         <source>wait SECONDS (job editor)</source>
         <translation>wait SEKUNDEN (Auftragseditor)</translation>
     </message>
+    <message>
+        <source>import FILE [FORMAT] (job editor, --plugin)</source>
+        <translation>import DATEI [FORMAT] (Auftragseditor, --plugin)</translation>
+    </message>
 </context>
 <context>
     <name>Session::ScenarioRunner</name>
@@ -5543,6 +5668,22 @@ beantwortet: %3
     <message>
         <source>&quot;%1&quot; is no time to wait</source>
         <translation>„%1“ ist keine Wartezeit</translation>
+    </message>
+    <message>
+        <source>there is no format of lists &quot;%1&quot;</source>
+        <translation>ein Listenformat „%1“ gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Formats are %1.</source>
+        <translation>Formate sind %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not imported: %2</source>
+        <translation>%1 wird nicht importiert: %2</translation>
+    </message>
+    <message>
+        <source>there is no sub-job that takes a list</source>
+        <translation>es gibt keinen Teilauftrag, der eine Liste übernimmt</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 
 #include "applydialog.h"
 #include "editorpane.h"
+#include "importdialog.h"
 #include "pluginpage.h"
 #include "treepane.h"
 
@@ -26,6 +27,7 @@
 #include <session/applysettings.h>
 #include <session/installation.h>
 #include <session/jobsession.h>
+#include <session/listpreview.h>
 
 using JEDVEPLUGIN::ISubSetting;
 using JEDVEPLUGIN::JEDSubSettingFactory;
@@ -82,6 +84,8 @@ void EditorWindow::buildEditMenu()
         << m_settingMenu->addAction(
                tr("Move do&wn"), this, [this] { moveCurrent(1); }, QKeySequence(Qt::ALT + Qt::Key_Down))
         << m_settingMenu->addAction(tr("Appl&y these settings to..."), this, &EditorWindow::applyToOthers);
+    m_changeActions << m_settingMenu->addAction(tr("&Import..."), this, &EditorWindow::importList,
+                                                QKeySequence(Qt::CTRL + Qt::Key_I));
     m_tree->setRowMenu(m_settingMenu);
 
     // With a modifier of their own: the plain keys belong to the fields of the editors.
@@ -257,6 +261,21 @@ void EditorWindow::duplicate()
 {
     if (ISubSetting* const setting = m_tree->currentSetting())
         m_tree->setCurrentSetting(m_session->duplicate(setting));
+}
+
+void EditorWindow::importList()
+{
+    ISubSetting* const target = Session::importTarget(*m_session, m_tree->currentSetting());
+    if (!target) {
+        QMessageBox::information(
+            this, tr("Import"),
+            tr("Choose the sub-job that is to have the frequencies of a list. It must have "
+               "a tuner."));
+        return;
+    }
+    ImportDialog dialog(m_session, target, this);
+    if (dialog.exec() == QDialog::Accepted)
+        m_tree->setCurrentSetting(target);
 }
 
 void EditorWindow::removeCurrent()

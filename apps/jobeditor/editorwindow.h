@@ -80,6 +80,7 @@ private:
     void copy();
     void paste();
     void duplicate();
+    void importList();
     void removeCurrent();
     void moveCurrent(int step);
     void applyToOthers();

@@ -99,13 +99,18 @@ Findings checkFrequencyList(const QString& path, FreqStoreXml::FrequencyStoreLis
     return findings;
 }
 
+QString frequencyEntryText(const FrequencyStoreEntry& entry)
+{
+    return settingsOf(entry).join(QLatin1String(", "));
+}
+
 QString frequencyListText(const FreqStoreXml::FrequencyStoreList& list)
 {
     TextTable table;
     int number = 0;
     for (const FrequencyStoreEntry& entry : list.GetFrequencyStoreEntry())
-        table.append({QString::number(++number), entry.GetProfile_Data().GetProfileName(),
-                      settingsOf(entry).join(QLatin1String(", "))});
+        table.append(
+            {QString::number(++number), entry.GetProfile_Data().GetProfileName(), frequencyEntryText(entry)});
     return table.toText();
 }
 

@@ -1,5 +1,6 @@
 #include "jobsession.h"
 
+#include "importcommand.h"
 #include "settingcommands.h"
 
 #include <isubsetting.h>
@@ -455,7 +456,16 @@ void JobSession::forget(Setting* setting)
 
 void JobSession::push(QUndoCommand* command)
 {
-    m_undoStack.push(command);
+    if (m_collected)
+        m_collected->append(command);
+    else
+        m_undoStack.push(command);
+}
+
+void JobSession::tellStructure()
+{
+    if (m_structureHolds == 0)
+        emit structureChanged();
 }
 
 SettingContent JobSession::contentOf(Setting* setting) const
@@ -474,7 +484,7 @@ JobSession::Setting* JobSession::inserted(Factory* factory, Setting* setting, co
     }
     walk(setting, [this](Setting* node) { remember(node); });
     push(new InsertCommand(this, step, pathOf(setting), factory));
-    emit structureChanged();
+    tellStructure();
     return setting;
 }
 
@@ -496,7 +506,7 @@ JobSession::Setting* JobSession::insertText(Factory* factory, const SettingConte
         m_topLevel.insert(m_topLevel.begin() + path.first(), newTopLevel(factory, setting, content.subjob));
     }
     walk(setting, [this](Setting* node) { remember(node); });
-    emit structureChanged();
+    tellStructure();
     return setting;
 }
 
@@ -511,14 +521,14 @@ bool JobSession::removeAt(const SettingPath& path)
     walk(setting, [&gone](Setting* node) { gone.append(node); });
     emit settingLeaving(setting);
     if (!factory->deleteSubSetting(setting)) {
-        emit structureChanged();
+        tellStructure();
         return false;
     }
     for (Setting* node : qAsConst(gone))
         forget(node);
     if (path.size() == 1)
         m_topLevel.erase(m_topLevel.begin() + path.first());
-    emit structureChanged();
+    tellStructure();
     return true;
 }
 
@@ -532,7 +542,7 @@ void JobSession::moveAt(const SettingPath& parent, int from, int to)
         m_topLevel.erase(m_topLevel.begin() + from);
         m_topLevel.insert(m_topLevel.begin() + (to > from ? to - 1 : to), top);
     }
-    emit structureChanged();
+    tellStructure();
 }
 
 bool JobSession::setTextAt(const SettingPath& path, const QString& name, const QString& xml)

@@ -121,6 +121,12 @@ public:
     bool move(Setting* parent, int from, int to);
     bool setParameterSet(Setting* setting, const QString& name, const QString& xml);
 
+    /// Lets the plug-in of a setting take a profile over, in one step.
+    /// \param file  of a format that the library knows as a profile
+    /// \param made  receives the settings that came; may not be null
+    /// \return false if nothing was changed
+    bool importProfile(Setting* setting, const QString& file, QList<Setting*>* made);
+
     /// Collects what plug-ins have changed by themselves. \param step  what undo calls it
     void flushEdits();
     /// The next edit of a value begins a step of its own.
@@ -142,6 +148,20 @@ signals:
 
 private:
     friend class SettingCommand;
+    friend class ImportCommand;
+
+    // While there is one, settings come and go without a word; views are told once, at its end.
+    class StructureHold
+    {
+    public:
+        explicit StructureHold(JobSession* session);
+        ~StructureHold();
+
+    private:
+        Q_DISABLE_COPY(StructureHold)
+        JobSession* m_session;
+    };
+
     using Texts = QHash<QString, QString>;
 
     void drop();
@@ -155,6 +175,7 @@ private:
     void remember(Setting* setting);
     void forget(Setting* setting);
     void push(QUndoCommand* command);
+    void tellStructure();
     SettingContent contentOf(Setting* setting) const;
     Setting* inserted(Factory* factory, Setting* setting, const QString& step);
 
@@ -171,6 +192,8 @@ private:
     QHash<Setting*, Texts> m_known; // Parameter-set texts as they were at the last step.
     QSet<Setting*> m_changed;       // Settings that told of a change since.
     QUndoStack m_undoStack;
+    class ImportCommand* m_collected = nullptr; // Gathers the steps instead of the stack. Not owned.
+    int m_structureHolds = 0;
     int m_lastNumber = 0;
     int m_editStep = 0;
     bool m_isReadOnly = false;

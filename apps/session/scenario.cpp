@@ -22,6 +22,8 @@ const Verb VERBS[] = {
     {QLatin1String("set"), 2, 2, QT_TRANSLATE_NOOP("Session::Scenario", "set SET/FIELD VALUE")},
     {QLatin1String("select"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "select NUMBER")},
     {QLatin1String("expect"), 2, 2, QT_TRANSLATE_NOOP("Session::Scenario", "expect subjobs|SET/FIELD VALUE")},
+    {QLatin1String("import"), 1, 2,
+     QT_TRANSLATE_NOOP("Session::Scenario", "import FILE [FORMAT] (job editor, --plugin)")},
     {QLatin1String("save"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "save FILE")},
     {QLatin1String("picture"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "picture FILE (job editor)")},
     {QLatin1String("dialog"), 3, 3,

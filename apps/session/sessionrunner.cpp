@@ -1,6 +1,7 @@
 #include "sessionrunner.h"
 
 #include "fieldplaces.h"
+#include "listpreview.h"
 
 #include <isubsetting.h>
 #include <jedcommonhelper.h>
@@ -109,6 +110,7 @@ bool SessionRunner::runStep(const Scenario::Step& step)
         {QLatin1String("set"), &SessionRunner::set},
         {QLatin1String("select"), &SessionRunner::select},
         {QLatin1String("expect"), &SessionRunner::expect},
+        {QLatin1String("import"), &SessionRunner::import},
         {QLatin1String("save"), &SessionRunner::save},
         {QLatin1String("picture"), &SessionRunner::picture},
         {QLatin1String("dialog"), &SessionRunner::dialog},
@@ -234,6 +236,33 @@ bool SessionRunner::expect(const QStringList& arguments)
     }
     return found == arguments.value(1) ||
            refuse(Texts::tr("%1 is \"%2\", not \"%3\" as expected").arg(what, found, arguments.value(1)));
+}
+
+bool SessionRunner::import(const QStringList& arguments)
+{
+    const QString path = QFileInfo(m_place).dir().filePath(arguments.value(0));
+    const QString format = arguments.value(1, guessListFormat(path));
+    if (!listFormats().contains(format))
+        return refuse(Texts::tr("there is no format of lists \"%1\"").arg(format),
+                      Texts::tr("Formats are %1.").arg(listFormats().join(QLatin1String(", "))));
+    const ListPreview preview = previewList(path, format);
+    if (!preview.failure.isEmpty())
+        return refuse(Texts::tr("%1 is not imported: %2").arg(path, preview.failure));
+    for (const ListPreview::Row& row : preview.rows) {
+        if (row.entry < 0)
+            m_findings.append({Finding::WARNING, path, row.line, 0, row.becomes, QString()});
+    }
+    for (const QString& set : parameterSetsOf(preview.list))
+        carrierOf(set);
+    JobSession::Setting* const target = importTarget(*m_session, m_session->settingAt({m_current}));
+    if (!target)
+        return refuse(Texts::tr("there is no sub-job that takes a list"));
+    QList<JobSession::Setting*> made;
+    QString error;
+    if (!importList(m_session, target, preview.list, &made, &error))
+        return refuse(Texts::tr("%1 is not imported: %2").arg(path, error));
+    m_shown = target;
+    return true;
 }
 
 bool SessionRunner::save(const QStringList& arguments)

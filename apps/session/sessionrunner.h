@@ -44,6 +44,7 @@ private:
                    const QString& text);
     bool select(const QStringList& arguments);
     bool expect(const QStringList& arguments);
+    bool import(const QStringList& arguments);
     bool save(const QStringList& arguments);
     bool picture(const QStringList& arguments);
     bool dialog(const QStringList& arguments);
