@@ -76,14 +76,15 @@ void TstScenario::faultsNameTheLine_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("message");
-    QTest::newRow("unknown verb") << "new Search\nsett a b"
-                                  << "s:2: error: \"sett\" is no verb of a scenario\n"
-                                     "    Verbs are new, open, add, set, select, expect, save, picture, "
-                                     "dialog, wait. Did you mean \"set\"?";
+    QTest::newRow("unknown verb")
+        << "new Search\nsett a b"
+        << "s:2: error: \"sett\" is no verb of a scenario\n"
+           "    Verbs are new, open, add, set, select, expect, import, save, picture, "
+           "dialog, wait. Did you mean \"set\"?";
     QTest::newRow("far from any verb")
         << "destroy"
         << "s:1: error: \"destroy\" is no verb of a scenario\n"
-           "    Verbs are new, open, add, set, select, expect, save, picture, dialog, wait.";
+           "    Verbs are new, open, add, set, select, expect, import, save, picture, dialog, wait.";
     QTest::newRow("too few")
         << "\nset a"
         << "s:2: error: \"set\" does not go with 1 arguments\n    Write: set SET/FIELD VALUE";
@@ -138,6 +139,7 @@ void TstScenario::theHelpNamesEachVerb()
                                             "  set SET/FIELD VALUE\n"
                                             "  select NUMBER\n"
                                             "  expect subjobs|SET/FIELD VALUE\n"
+                                            "  import FILE [FORMAT] (job editor, --plugin)\n"
                                             "  save FILE\n"
                                             "  picture FILE (job editor)\n"
                                             "  dialog TYPE DETECTOR FILE (job editor)\n"
