@@ -11,17 +11,6 @@ namespace JEDVEPLUGIN {
 namespace ScriptableAccess {
 
 /// What a script calls must not throw: the exception would end the process inside the script engine.
-/// \return the result of \p action, \p neutral if it threw
-template <class Result, class Action>
-Result guarded(const Result& neutral, const Action& action)
-{
-    try {
-        return action();
-    } catch (...) {
-        return neutral;
-    }
-}
-
 template <class Action>
 void guarded(const Action& action)
 {
