@@ -19,6 +19,9 @@ private slots:
     void objectsType();
     void constructionEvaluatesNothing();
     void scopeHasTheBuiltInObjects();
+    void newScopeHasNothingOfOtherManagers();
+    void scriptKnowsItsFileAndItsLines();
+    void registeredObjectIsNotCollected();
     void registersUnderAName();
     void registersUnderTheLastPartOfThePath_data();
     void registersUnderTheLastPartOfThePath();
@@ -46,6 +49,7 @@ private slots:
     void endlessPipeIsNotOpened();
     void textIsUtf8();
     void hostVariables();
+    void hostVariableWaitsForTheNextRun();
     void hostVariableTypes_data();
     void hostVariableTypes();
     void hostVariableKeepsDerivedInitialisers();
@@ -101,6 +105,39 @@ void TstRuleObjectManager::scopeHasTheBuiltInObjects()
         "function f() { Log.stringValue = [Math.max(2, 3), JSON.stringify([1]), isNaN(NaN),"
         " new Date(0).getTime(), parseInt('12px'), typeof Infinity, typeof undefined].join(' '); }");
     QCOMPARE(setup.run("f"), QString("3 [1] true 0 12 number undefined"));
+}
+
+void TstRuleObjectManager::newScopeHasNothingOfOtherManagers()
+{
+    RuleBench bench;
+    const QString file =
+        bench.script("var limit = 5; function f() { Log.stringValue = limit + typeof Gain; }");
+    RuleSetup first("", file);
+    first.addInt("Gain");
+    QCOMPARE(first.run("f"), QString("5object"));
+    RuleSetup second("", file);
+    QVERIFY(!second->setScriptValue("limit", 7.0));
+    QCOMPARE(second.run("f"), QString("5undefined"));
+    QVERIFY(second->setScriptValue("limit", 7.0));
+}
+
+void TstRuleObjectManager::scriptKnowsItsFileAndItsLines()
+{
+    RuleBench bench;
+    const QString file = bench.script("function f() {\n try { missing(); }\n"
+                                      " catch (e) { Log.stringValue = e.fileName + ':' + e.lineNumber; } }");
+    RuleSetup setup("", file);
+    QCOMPARE(setup.run("f"), file + ":2");
+}
+
+void TstRuleObjectManager::registeredObjectIsNotCollected()
+{
+    RuleSetup setup("function f() { Gain = 5; gc(); gc(); Log.stringValue = typeof Gain; }");
+    setup.addInt("Gain");
+    const QPointer<ScriptableObject> object = setup->GetScriptableObject("Gain");
+    QCOMPARE(setup.run("f"), QString("number"));
+    QVERIFY(object);
+    QCOMPARE(setup->GetScriptableObject("Gain"), object.data());
 }
 
 void TstRuleObjectManager::registersUnderAName()
@@ -452,6 +489,18 @@ void TstRuleObjectManager::hostVariables()
     setup->detatchScriptValue("limit");
     setup->detatchScriptValue("unknown");
     QCOMPARE(setup.run("f"), QString("5"));
+}
+
+void TstRuleObjectManager::hostVariableWaitsForTheNextRun()
+{
+    // What no evaluation initialises shows when it is written.
+    RuleSetup setup("function f() { if (typeof kept === 'undefined') kept = 1; Log.stringValue = kept; }");
+    QCOMPARE(setup.run("f"), QString("1"));
+    QVERIFY(setup->setScriptValue("kept", 9.0));
+    setup->detatchScriptValue("kept");
+    QCOMPARE(setup.run("f"), QString("1"));
+    QVERIFY(setup->setScriptValue("kept", 9.0));
+    QCOMPARE(setup.run("f"), QString("9"));
 }
 
 void TstRuleObjectManager::hostVariableTypes_data()

@@ -33,6 +33,7 @@ private slots:
     void copiesIntegers();
     void copiesInt64ThroughDoubles();
     void copyOrderShowsInTheResult();
+    void boundsThatMoveTheValueRunTheRule();
     void copyRunsTheRule();
     void scriptConversions_data();
     void scriptConversions();
@@ -259,24 +260,68 @@ void TstScriptableNumeric::copiesInt64ThroughDoubles()
 }
 
 /// The value is written while the old bounds hold.
-void TstScriptableNumeric::copyOrderShowsInTheResult()
+namespace {
+/// The value comes first, and is cut by the bounds that are still the old ones.
+template <class Object, class T>
+QString changesOfACopy()
 {
     RuleBench bench;
-    NumericInt* const from = bench.value<NumericInt>("from");
-    NumericInt* const to = bench.value<NumericInt>("to");
+    T* const from = bench.value<T>("from");
+    T* const to = bench.value<T>("to");
+    from->SetMinMax(0, 1000, 1);
     from->SetValue(500);
-    to->SetMinMax(0, 100, 1);
+    to->SetMinMax(1, 100, 2);
     QStringList log;
     ChangeRecorder recorder("to", &log);
     to->AddObserver(&recorder);
-    ScriptableNumericInt source(from, QString(), nullptr);
-    ScriptableNumericInt target(to, QString(), nullptr);
+    Object source(from, QString(), nullptr);
+    Object target(to, QString(), nullptr);
     target.SetValue(&source);
-    QCOMPARE(to->GetValue(), 100);
-    QCOMPARE(to->GetMin(), from->GetMin());
-    QCOMPARE(to->GetMax(), from->GetMax());
-    QCOMPARE(JedTest::takeAll(&log), QString("to:3 to:4 to:4"));
     to->DeleteObserver(&recorder);
+    return QString("%1 in %2 to %3, step %4: ")
+               .arg(to->GetDoubleValue())
+               .arg(to->GetDoubleMin())
+               .arg(to->GetDoubleMax())
+               .arg(to->GetDoubleStep()) +
+           JedTest::takeAll(&log);
+}
+} // namespace
+
+void TstScriptableNumeric::copyOrderShowsInTheResult()
+{
+    const QString expected = "100 in 0 to 1000, step 2: to:3 to:4 to:4";
+    QCOMPARE((changesOfACopy<ScriptableNumericInt, NumericInt>()), expected);
+    QCOMPARE((changesOfACopy<ScriptableNumericInt64, NumericInt64>()), expected);
+    QCOMPARE((changesOfACopy<ScriptableNumericFloat, NumericDouble>()), expected);
+}
+
+namespace {
+/// How often the rule of a value runs that its own bounds move along.
+template <class Object, class T>
+QString runsByBounds(const char* minimum, const char* maximum)
+{
+    RuleSetup setup("function rule() { Log.stringValue += 'x'; }");
+    T* const value = setup.add<Object, T>("Number", "rule");
+    value->SetMinMax(0, 100, 1);
+    value->SetValue(50);
+    setup->InitFinished();
+    QObject* const object = setup->GetScriptableObject("Number");
+    object->setProperty(minimum, 60);
+    QString log = QString("%1%2 ").arg(value->GetDoubleValue()).arg(setup.takeLog());
+    object->setProperty(minimum, 0);
+    object->setProperty(maximum, 40);
+    log += QString("%1%2").arg(value->GetDoubleValue()).arg(setup.takeLog());
+    return log;
+}
+} // namespace
+
+void TstScriptableNumeric::boundsThatMoveTheValueRunTheRule()
+{
+    QCOMPARE((runsByBounds<ScriptableNumericInt, NumericInt>("minValue", "maxValue")), QString("60x 40x"));
+    QCOMPARE((runsByBounds<ScriptableNumericInt64, NumericInt64>("floatMinValue", "floatMaxValue")),
+             QString("60x 40x"));
+    QCOMPARE((runsByBounds<ScriptableNumericFloat, NumericDouble>("floatMinValue", "floatMaxValue")),
+             QString("60x 40x"));
 }
 
 void TstScriptableNumeric::copyRunsTheRule()

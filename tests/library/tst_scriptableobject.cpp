@@ -92,6 +92,7 @@ private slots:
     void stringValue();
     void stateNormal_data();
     void stateNormal();
+    void valueThatIsLeavingIsNotNormal();
     void setValueTreePath_data();
     void setValueTreePath();
     void valueThatGoesAway_data();
@@ -308,6 +309,21 @@ void TstScriptableObject::stateNormal()
     QCOMPARE(object->property("stateNormal"), QVariant(true));
     QCOMPARE(JedTest::takeAll(&log), QString("value:2 value:2"));
     kinds.values.at(kind)->DeleteObserver(&recorder);
+}
+
+void TstScriptableObject::valueThatIsLeavingIsNotNormal()
+{
+    RuleBench bench;
+    ValueBool* const value = bench.value<ValueBool>("leaving");
+    QStringList log;
+    ChangeRecorder recorder("value", &log); // is told before the object is
+    value->AddObserver(&recorder);
+    const ScriptableBoolean object(value, QString(), nullptr);
+    recorder.setAction([&](Observable*, TChangeCode) {
+        log << QString::number(value->GetState()) << (object.stateNormal() ? "normal" : "not normal");
+    });
+    delete value;
+    QCOMPARE(JedTest::takeAll(&log), QString("value:2 1 not normal"));
 }
 
 void TstScriptableObject::setValueTreePath_data()

@@ -108,6 +108,12 @@ void TstSelectableResourceCounts::maximumAndCountBelowZero()
     // The count stays below 0 when there is room again, until it is written.
     QVERIFY(m_model->setReservationCount(find("C2"), 0));
     QCOMPARE(rows(*m_model), QString("P 0/2 C1 3/4 C2 -1/1"));
+    QCOMPARE(names(m_model->getCreateableResources()), QString("P C1 C2"));
+    // A count below the maximum is not enough where that offers nothing.
+    QVERIFY(m_model->setReservationCount(find("C2"), 1));
+    QCOMPARE(rows(*m_model), QString("P 0/1 C1 3/4 C2 -1/0"));
+    QCOMPARE(names(m_model->getCreateableResources()), QString("P C1"));
+    QVERIFY(m_model->setReservationCount(find("C2"), 0));
     QVERIFY(m_model->unselectResource(find("C2"), -1));
     QCOMPARE(rows(*m_model), QString("P 0/1 C1 3/4 C2 0/1"));
 }

@@ -38,6 +38,7 @@ private slots:
     void classIsKnownToQt();
     void spinBoxGoesToTheMaximum();
     void spinBoxBehindAProxy();
+    void spinBoxBehindAProxyOfOtherColumns();
     void secondProxyIsNotLookedThrough();
     void otherColumnsAndModelsAreLeftAlone();
     void editorBelongsToItsParent();
@@ -103,6 +104,19 @@ void TstSelectableResourceDelegate::spinBoxBehindAProxy()
     QCOMPARE(proxy.index(0, 0).data().toString(), QString("B"));
     QCOMPARE(rangeOf(proxy.index(0, 1)), QString("0 to 3"));
     QCOMPARE(rangeOf(proxy.index(1, 1)), QString("0 to 7"));
+}
+
+void TstSelectableResourceDelegate::spinBoxBehindAProxyOfOtherColumns()
+{
+    class CountOnly : public QSortFilterProxyModel
+    {
+        bool filterAcceptsColumn(int column, const QModelIndex&) const override { return column == 1; }
+    };
+    load({"A 7"});
+    CountOnly proxy;
+    proxy.setSourceModel(m_model.get());
+    QCOMPARE(proxy.columnCount(), 1);
+    QCOMPARE(rangeOf(proxy.index(0, 0)), QString("0 to 7"));
 }
 
 void TstSelectableResourceDelegate::secondProxyIsNotLookedThrough()
