@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QTabWidget>
 
 using JedTest::LoadedPlugin;
 using JEDVEPLUGIN::ISubSetting;
@@ -239,7 +240,7 @@ void TstSubjobPage::theWidgetStaysTheSame()
     QCOMPARE(m_node->getWidget(), widget);
     m_plugin->get()->setReadOnly(true);
     QCOMPARE(m_node->getWidget(), widget);
-    QVERIFY(!widget->isEnabled());
+    QVERIFY(!qobject_cast<QTabWidget*>(widget)->widget(0)->isEnabled());
 }
 
 void TstSubjobPage::theWidgetGoesWithTheNode()
