@@ -3994,6 +3994,58 @@ Anlage: %3</translation>
         <source>Analogue demodulation of the entry.</source>
         <translation>Analoge Demodulation des Eintrags.</translation>
     </message>
+    <message>
+        <source>Region active</source>
+        <translation>Gebiet aktiv</translation>
+    </message>
+    <message>
+        <source>Transmitters that are located outside the region are dropped.</source>
+        <translation>Sender, die außerhalb des Gebiets geortet werden, werden verworfen.</translation>
+    </message>
+    <message>
+        <source>West</source>
+        <translation>Westen</translation>
+    </message>
+    <message>
+        <source>Longitude of the western edge.</source>
+        <translation>Geografische Länge des westlichen Rands.</translation>
+    </message>
+    <message>
+        <source>South</source>
+        <translation>Süden</translation>
+    </message>
+    <message>
+        <source>Latitude of the southern edge.</source>
+        <translation>Geografische Breite des südlichen Rands.</translation>
+    </message>
+    <message>
+        <source>East</source>
+        <translation>Osten</translation>
+    </message>
+    <message>
+        <source>Longitude of the eastern edge.</source>
+        <translation>Geografische Länge des östlichen Rands.</translation>
+    </message>
+    <message>
+        <source>Latitude of the northern edge.</source>
+        <translation>Geografische Breite des nördlichen Rands.</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Ecken</translation>
+    </message>
+    <message>
+        <source>Longitude and latitude of each corner of a polygon, as in 4.5 58.25; none: a rectangle.</source>
+        <translation>Geografische Länge und Breite jeder Ecke eines Polygons, etwa 4.5 58.25; keine: ein Rechteck.</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Gebiet</translation>
+    </message>
+    <message>
+        <source>Region of the earth that is of interest.</source>
+        <translation>Gebiet der Erde, das von Interesse ist.</translation>
+    </message>
 </context>
 <context>
     <name>JobXml::Suggestion</name>
@@ -4092,6 +4144,53 @@ Anlage: %3</translation>
     <message>
         <source>it speaks version %1, the map version %2</source>
         <translation>es spricht Version %1, die Karte Version %2</translation>
+    </message>
+</context>
+<context>
+    <name>MapControl</name>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Karte</translation>
+    </message>
+    <message>
+        <source>Opens the map with the regions of the settings.</source>
+        <translation>Öffnet die Karte mit den Gebieten der Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The map is open in a window of its own.</source>
+        <translation>Die Karte ist in einem eigenen Fenster geöffnet.</translation>
+    </message>
+    <message>
+        <source>The map is being opened.</source>
+        <translation>Die Karte wird geöffnet.</translation>
+    </message>
+    <message>
+        <source>Map: linked</source>
+        <translation>Karte: verbunden</translation>
+    </message>
+    <message>
+        <source>Map: none</source>
+        <translation>Karte: keine</translation>
+    </message>
+    <message>
+        <source>Regions of settings are shown on the map.</source>
+        <translation>Gebiete von Einstellungen werden auf der Karte gezeigt.</translation>
+    </message>
+    <message>
+        <source>There is no map. View &gt; Map opens one.</source>
+        <translation>Es gibt keine Karte. Ansicht &gt; Karte öffnet eine.</translation>
+    </message>
+    <message>
+        <source>Job editor</source>
+        <translation>Auftragseditor</translation>
+    </message>
+    <message>
+        <source>The map program could not be started.</source>
+        <translation>Das Kartenprogramm konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>It is expected as %1. Install it there, or start a map program by hand: the editor finds it by itself.</source>
+        <translation>Es wird als %1 erwartet. Installieren Sie es dort, oder starten Sie ein Kartenprogramm von Hand: der Editor findet es von selbst.</translation>
     </message>
 </context>
 <context>
@@ -4284,6 +4383,64 @@ Anlage: %3</translation>
     <message>
         <source>is not for jobs of this type</source>
         <translation>ist nicht für Aufträge dieses Typs</translation>
+    </message>
+</context>
+<context>
+    <name>PluginKit::Region</name>
+    <message>
+        <source>West %1°, south %2°, east %3°, north %4°</source>
+        <translation>Westen %1°, Süden %2°, Osten %3°, Norden %4°</translation>
+    </message>
+    <message>
+        <source>Polygon with %1 corners: %2</source>
+        <translation>Polygon mit %1 Ecken: %2</translation>
+    </message>
+    <message>
+        <source>Corner %1 is no longitude and latitude: &quot;%2&quot;</source>
+        <translation>Ecke %1 ist keine Länge und Breite: „%2“</translation>
+    </message>
+    <message>
+        <source>A polygon has at least three corners</source>
+        <translation>Ein Polygon hat mindestens drei Ecken</translation>
+    </message>
+    <message>
+        <source>The eastern edge of the region is not east of the western one</source>
+        <translation>Der östliche Rand des Gebiets liegt nicht östlich vom westlichen</translation>
+    </message>
+    <message>
+        <source>The northern edge of the region is not north of the southern one</source>
+        <translation>Der nördliche Rand des Gebiets liegt nicht nördlich vom südlichen</translation>
+    </message>
+</context>
+<context>
+    <name>PluginKit::RegionBar</name>
+    <message>
+        <source>Show region on the map</source>
+        <translation>Gebiet auf der Karte zeigen</translation>
+    </message>
+    <message>
+        <source>Draw region on the map</source>
+        <translation>Gebiet auf der Karte zeichnen</translation>
+    </message>
+    <message>
+        <source>No map is open.</source>
+        <translation>Keine Karte ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>Selects the region on the map. Only active regions are there.</source>
+        <translation>Wählt das Gebiet auf der Karte aus. Nur aktive Gebiete sind dort.</translation>
+    </message>
+    <message>
+        <source>Set the corners on the map; the region becomes this polygon.</source>
+        <translation>Ecken auf der Karte setzen; das Gebiet wird zu diesem Polygon.</translation>
+    </message>
+    <message>
+        <source>Set the corners of the region on the map.</source>
+        <translation>Setzen Sie die Ecken des Gebiets auf der Karte.</translation>
+    </message>
+    <message>
+        <source>Finish the polygon that is being drawn on the map first.</source>
+        <translation>Beenden Sie zuerst das Polygon, das auf der Karte gezeichnet wird.</translation>
     </message>
 </context>
 <context>
@@ -5586,6 +5743,10 @@ beantwortet: %3
     <message>
         <source>import FILE [FORMAT] (job editor, --plugin)</source>
         <translation>import DATEI [FORMAT] (Auftragseditor, --plugin)</translation>
+    </message>
+    <message>
+        <source>map FILE (job editor)</source>
+        <translation>map DATEI (Auftragseditor)</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "batch.h"
 
 #include "editorwindow.h"
+#include "mappicture.h"
 #include "rulespane.h"
 
 #include <isubsetting.h>
@@ -53,6 +54,12 @@ public:
         choose("ResourceSelection_DetectorType", JEDVEPLUGIN::JEDCommonHelper::detectorTypeToGUI(detector));
         dialog.show();
         return write(&dialog, file);
+    }
+
+    bool drawMap(JobSession::Setting* current, const QString& file) override
+    {
+        m_window->setCurrentSetting(current);
+        return writeMapPicture(file);
     }
 
 private:

@@ -5,6 +5,7 @@
 #include "applydialog.h"
 #include "editorpane.h"
 #include "importdialog.h"
+#include "mapcontrol.h"
 #include "pluginpage.h"
 #include "treepane.h"
 
@@ -105,6 +106,8 @@ void EditorWindow::buildViewMenu()
     QMenu* const menu = createPopupMenu();
     menu->setParent(menuBar(), menu->windowFlags());
     menu->setTitle(tr("&View"));
+    menu->addSeparator();
+    menu->addAction(m_map->action());
     menuBar()->addMenu(menu);
 }
 

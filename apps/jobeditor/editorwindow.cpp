@@ -3,6 +3,7 @@
 #include "editorpane.h"
 #include "fieldfocus.h"
 #include "frequencypane.h"
+#include "mapcontrol.h"
 #include "problemspane.h"
 #include "recoverydialog.h"
 #include "resourcepane.h"
@@ -45,6 +46,7 @@ EditorWindow::EditorWindow(Session::PluginHost* host, JobSession* session)
     , m_startPage(new StartPage(this))
     , m_tree(new TreePane(session, this))
     , m_editor(new EditorPane(this))
+    , m_map(new MapControl(this, session))
 {
     setObjectName(QStringLiteral("jobEditor"));
     resize(1100, 780);

@@ -5,6 +5,7 @@
 #include <session/finding.h>
 
 class EditorPane;
+class MapControl;
 class ProblemsPane;
 class QAction;
 class QMenu;
@@ -101,6 +102,7 @@ private:
     StartPage* m_startPage;
     TreePane* m_tree;
     EditorPane* m_editor;
+    MapControl* m_map;
     ProblemsPane* m_problems = nullptr;
     RulesPane* m_rules = nullptr;
     QMenu* m_settingMenu = nullptr;

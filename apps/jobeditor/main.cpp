@@ -1,5 +1,6 @@
 #include <jobeditor/batch.h>
 #include <jobeditor/editorwindow.h>
+#include <jobeditor/mapcontrol.h>
 
 #include <QCommandLineParser>
 #include <QMessageBox>
@@ -35,6 +36,8 @@ int main(int argc, char* argv[])
         QSettings().clear();
     const QString scenario = parser.value(QStringLiteral("batch"));
     const bool isDark = parser.isSet(QStringLiteral("dark"));
+    if (!scenario.isEmpty())
+        MapControl::useMapOfItsOwn();
     if (isDark || !scenario.isEmpty())
         useFixedLooks(isDark);
     QString error;

@@ -114,6 +114,7 @@ bool SessionRunner::runStep(const Scenario::Step& step)
         {QLatin1String("save"), &SessionRunner::save},
         {QLatin1String("picture"), &SessionRunner::picture},
         {QLatin1String("dialog"), &SessionRunner::dialog},
+        {QLatin1String("map"), &SessionRunner::map},
         {QLatin1String("wait"), &SessionRunner::wait},
     };
     m_line = step.line;
@@ -295,6 +296,12 @@ bool SessionRunner::wait(const QStringList& arguments)
     QTimer::singleShot(int(seconds * 1000), &loop, &QEventLoop::quit);
     loop.exec();
     return true;
+}
+
+bool SessionRunner::map(const QStringList& arguments)
+{
+    const QString file = arguments.value(0);
+    return drawn(m_artist && m_artist->drawMap(m_shown, file), file);
 }
 
 bool SessionRunner::drawn(bool isWritten, const QString& file)

@@ -12,7 +12,7 @@ namespace Session {
 class SessionRunner
 {
 public:
-    /// Draws what the user would see; both give false if the file could not be written.
+    /// Draws what the user would see; all give false if the file could not be written.
     class Artist
     {
     public:
@@ -21,9 +21,11 @@ public:
         virtual bool drawSetting(JobSession::Setting* current, const QString& file) = 0;
         /// The dialog for a new sub-job, with a type of receivers and a type of detector chosen.
         virtual bool drawDialog(const QString& type, const QString& detector, const QString& file) = 0;
+        /// The map with the regions of all settings, as the user sees it who edits one.
+        virtual bool drawMap(JobSession::Setting* current, const QString& file) = 0;
     };
 
-    /// \param artist  for the steps "picture" and "dialog"; null: there are no pictures. Not owned.
+    /// \param artist  for the steps "picture", "dialog" and "map"; null: there are no pictures. Not owned.
     SessionRunner(JobSession* session, Artist* artist);
 
     /// Runs the steps up to the first that cannot be done.
@@ -48,6 +50,7 @@ private:
     bool save(const QStringList& arguments);
     bool picture(const QStringList& arguments);
     bool dialog(const QStringList& arguments);
+    bool map(const QStringList& arguments);
     bool wait(const QStringList& arguments);
     bool drawn(bool isWritten, const QString& file);
     bool refuse(const QString& text, const QString& advice = QString());

@@ -34,6 +34,12 @@ LICENCE_FREE = {
 }
 
 
+def region(west, south, east, north):
+    """Transmitters elsewhere are dropped; degrees."""
+    edges = {"West": west, "South": south, "East": east, "North": north}
+    return {"DF_Settings/Region.Active": True, **{f"DF_Settings/Region.{edge}": at for edge, at in edges.items()}}
+
+
 def information(kind, name, comment, created):
     return {"JobType": kind, "Name": name, "Author": "Skarholm", "Comment": comment, "Created": created,
             "Priority": 5, "Station": "Skarholm"}
@@ -58,7 +64,8 @@ JOBS = [
                                  "2024-03-04T09:30:00Z"),
          subjobs=[
              dict(name="Airband", resource=("TRV9KScanSettings", "VUHF-1"), mode="Automatic", record="Station",
-                  values={"ScanSettings/Range.StepWidth": 8333, "ScanSettings/SkipKnown": True}),
+                  values={"ScanSettings/Range.StepWidth": 8333, "ScanSettings/SkipKnown": True,
+                          **region(3.5, 57.5, 8.25, 59.75)}),
              dict(name="ISM 433 MHz", resource=("HT720", "VUHF-3"), mode="Manual", record="Receiver",
                   detectors=[{"Type": "HopperDetector", "AutoSeparation": True, "OnlineRecombination": True,
                               "DSCChannels": 2, "BaseResource": "VUHF-CH", "MinCoverage": 60,
@@ -73,7 +80,8 @@ JOBS = [
                   without=("DDemComponent", "CompressionSettingsComponent"),
                   values={"AlarmSettings/Delay": 500}),
              dict(name="Harbour channels", resource=("HT720", "VUHF-1"), mode="Permanent", record="Receiver",
-                  without=("DSCSettingsComponent", "DDemComponent"), settings={"FrequencyListSettings": HARBOUR}),
+                  without=("DSCSettingsComponent", "DDemComponent"), settings={"FrequencyListSettings": HARBOUR},
+                  values=region(4.75, 57.75, 6.5, 58.75)),
              dict(name="Airband emergency", resource=("HT720", "VUHF-2"), mode="Permanent", record="Receiver",
                   without=("DDemComponent",), values={"ActivityGeneration/MinimumActivityTime": 250}),
          ]),
@@ -82,10 +90,11 @@ JOBS = [
                                  "2024-03-06T06:00:00Z"),
          subjobs=[
              dict(name="Beacons", resource=("DirectionFinder", "DF-VUHF"), mode="Automatic", record="Station",
-                  settings={"TransmitterListSettings": BEACONS}, values={"DF_Settings/QualityThreshold": 75}),
+                  settings={"TransmitterListSettings": BEACONS}, values={"DF_Settings/QualityThreshold": 75, **region(-2, 54, 9, 61)}),
              dict(name="Ships", resource=("TRV9KScanSettings", "VUHF-2"), mode="Timed", record="Station",
                   values={"DF_Settings/Sector.Active": True, "DF_Settings/Sector.From": 180,
-                          "DF_Settings/Sector.To": 330}),
+                          "DF_Settings/Sector.To": 330, **region(3, 57, 8.5, 59.5),
+                          "DF_Settings/Region.Corner": ["3 58", "6.5 57", "8.5 57.75", "7 58.5", "5.5 59.5"]}),
          ]),
     dict(file="measurement.xml",
          information=information("Measurement", "Broadcast levels", "Levels of the FM stations, twice a day.",

@@ -19,6 +19,15 @@ VHF_WIDTHS = Choice(6000, 8000, 12500, 15000, 25000, 120000, index=3)
 FFT_LENGTHS = Choice(512, 1024, 2048, 4096, 8192, index=2)
 
 
+def region(west, south, east, north):
+    """What a station listens to: edges in degrees."""
+    return {"Region.West": west, "Region.South": south, "Region.East": east, "Region.North": north}
+
+
+COAST = region(3.0, 57.0, 9.0, 60.0)
+NORTH_SEA = region(-4.0, 51.0, 12.0, 62.0)
+
+
 def tuner(frequency, bandwidth, channel, antenna, antenna_band, **more):
     """Tuner and antenna: the two sets of the tuner component."""
     settings = {"CenterFrequency": frequency, "Bandwidth": bandwidth, "ChannelName": channel, **more}
@@ -133,7 +142,7 @@ RECEIVERS = [
                  "SpectralDetectorSettings.Shape": Texts(("CARRIER", "FSK2"))}}),
              ("DFLocateComponent", {"DF_Settings": {
                  "Bandwidth": 15 * KHZ, "Locate": True, "PartnerStation": Texts(("Grunnes", "Vestre Holme")),
-                 "Sector.Active": True, "Sector.From": 180, "Sector.To": 330}}),
+                 "Sector.Active": True, "Sector.From": 180, "Sector.To": 330, **COAST}}),
              spectrum(2 * MHZ),
              automatic({"Enabled": True, "Trigger": "NewSignal", "Severity": "Distress",
                         "Message": "Call on channel 16", "AlarmPeriod.Weekday": Texts(("Saturday", "Sunday"))},
@@ -197,7 +206,7 @@ RECEIVERS = [
              ("ScanSettingsComponent", {
                  "ScanSettings": {"Range.Name": "V/UHF", "Range.StartFrequency": 30 * MHZ,
                                   "Range.StopFrequency": 1000 * MHZ, "Mode": "Panorama"},
-                 "DF_Settings": {"PartnerStation": None},
+                 "DF_Settings": {"PartnerStation": None, **COAST},
                  "FFTSettings": {"Length": FFT_LENGTHS, "Span": 20 * MHZ},
                  "TunerSettings": {"CenterFrequency": 515 * MHZ, "Bandwidth": 20 * MHZ, "Gain": None}}),
          ]),
@@ -212,7 +221,7 @@ RECEIVERS = [
                                   "Range.Detail.Threshold": (10, -10, 80, 0.5),
                                   "Range.Detail.DwellTime": (20, 5, 1000, 5), "HoldCriteria.Hold": True,
                                   "SuppressedFrequency": Texts(("122100000", "129900000"))},
-                 "DF_Settings": {"Bandwidth": 8000},
+                 "DF_Settings": {"Bandwidth": 8000, **COAST},
                  "FFTSettings": {"Length": FFT_LENGTHS, "Span": 10 * MHZ},
                  "TunerSettings": {"CenterFrequency": 127 * MHZ, "Bandwidth": 10 * MHZ}}),
          ]),
@@ -227,7 +236,7 @@ RECEIVERS = [
                                   "Range.Detail.SignalTime": (2000, 100, 60000, 100),
                                   "SuppressedFrequency": Texts(("161975000", "162025000"))},
                  "DF_Settings": {"Bandwidth": 15 * KHZ, "Locate": True,
-                                 "PartnerStation": Texts(("Grunnes", "Vestre Holme"))},
+                                 "PartnerStation": Texts(("Grunnes", "Vestre Holme")), **COAST},
                  "FFTSettings": {"Length": FFT_LENGTHS, "Span": 6 * MHZ},
                  "TunerSettings": {"CenterFrequency": 159 * MHZ, "Bandwidth": 10 * MHZ}}),
          ]),
@@ -240,7 +249,7 @@ RECEIVERS = [
                                   "Range.Bandwidth": 2700, "Range.Detail.Threshold": (12, -20, 80, 1),
                                   "HoldCriteria.Hold": None, "HoldCriteria.HoldTime": None,
                                   "HoldCriteria.Resume": None},
-                 "DF_Settings": {"Bandwidth": 2700, "Method": "WatsonWatt"},
+                 "DF_Settings": {"Bandwidth": 2700, "Method": "WatsonWatt", **NORTH_SEA},
                  "FFTSettings": {"Length": FFT_LENGTHS, "Span": 1 * MHZ},
                  "TunerSettings": {"CenterFrequency": 6 * MHZ, "Bandwidth": 1 * MHZ}}),
          ]),
@@ -252,7 +261,8 @@ RECEIVERS = [
                  "TunerSettings": {"CenterFrequency": 156800 * KHZ, "Reference": "Satellite"},
                  "ADemSettings": {"Demodulation": "FM", "Bandwidth": VHF_WIDTHS},
                  "FFTSettings": {"Length": FFT_LENGTHS, "Span": 20 * MHZ},
-                 "DF_Settings": {"AzimuthCorrection": (1.5, -10, 10, 0.125), "NorthReference": "TrueNorth"},
+                 "DF_Settings": {"AzimuthCorrection": (1.5, -10, 10, 0.125), "NorthReference": "TrueNorth",
+                                 **NORTH_SEA},
                  "ScanSettings": {"Range.Name": "Marine VHF", "Range.StartFrequency": 156 * MHZ,
                                   "Range.StopFrequency": 162025 * KHZ}}),
          ]),
@@ -264,7 +274,7 @@ RECEIVERS = [
                  "ADemSettings": {"Demodulation": HF_MODES, "Bandwidth": HF_WIDTHS},
                  "FFTSettings": {"Length": FFT_LENGTHS, "Span": 50 * KHZ},
                  "DF_Settings": {"Method": Choice("WatsonWatt"), "Bandwidth": 1000,
-                                 "IntegrationTime": (500, 50, 5000, 50), "MeasureElevation": True},
+                                 "IntegrationTime": (500, 50, 5000, 50), "MeasureElevation": True, **NORTH_SEA},
                  "ScanSettings": {"Range.Name": "Distress HF", "Range.StartFrequency": 2 * MHZ,
                                   "Range.StopFrequency": 17 * MHZ, "Range.StepWidth": 500, "Range.Bandwidth": 1000}}),
          ]),
@@ -278,7 +288,7 @@ RECEIVERS = [
                  "FFTSettings": {"Length": FFT_LENGTHS, "Span": 20 * MHZ},
                  "DF_Settings": {"Method": Choice("Interferometer", "SuperResolution"), "Bandwidth": 15 * KHZ,
                                  "MinimumBearings": Plain(5), "Locate": True,
-                                 "PartnerStation": Texts(("Grunnes", "Vestre Holme"))},
+                                 "PartnerStation": Texts(("Grunnes", "Vestre Holme")), **COAST},
                  "ScanSettings": {"Range.Name": "Emergency beacons", "Range.StartFrequency": 121450 * KHZ,
                                   "Range.StopFrequency": 406100 * KHZ, "Range.StepWidth": 25 * KHZ,
                                   "Direction": "Alternating"}}),

@@ -11,7 +11,8 @@ RANGES = {
     "OffsetType": (-100000, 100000, 1), "RateType": (8000, 4000000, 1), "TimeType": (0, 3600000, 1),
     "LongTimeType": (0, 31622400000, 1000), "LevelType": (-20, 120, 0.5), "DecibelType": (-30, 130, 0.5),
     "AttenuationType": (0, 40, 5), "PercentType": (0, 100, 1), "AzimuthType": (0, 360, 0.5),
-    "AngleType": (-90, 90, 0.5), "CountType": (0, 1000, 1), "ChannelCountType": (0, 32, 1), "PriorityType": (1, 10, 1),
+    "AngleType": (-90, 90, 0.5), "LongitudeType": (-180, 180, 0.001), "LatitudeType": (-90, 90, 0.001),
+    "CountType": (0, 1000, 1), "ChannelCountType": (0, 32, 1), "PriorityType": (1, 10, 1),
     "SymbolRateType": (10, 90000, 0), "HopRateType": (0, 2000, 1), "RatioType": (1, 20, 0.5),
     "ProbabilityType": (0, 0.5, 0), "CorrectionType": (-20, 20, 0.125), "xs:long": (1048576, 1099511627776, 1048576),
 }

@@ -73,6 +73,7 @@ PluginKit::PluginDeclaration declaration()
     plugin.resourceTypes =
         QStringList{"DirectionFinder", "TRV9KScanSettings", "MeasurementReceiver", "SignalRecorder"};
     plugin.types = settingTypes();
+    plugin.regions = {{"DF_Settings", "Region"}};
     return plugin;
 }
 

@@ -314,6 +314,7 @@ QList<Problem> KitFactory::findProblems(const SettingNode&) const
 
 void KitFactory::tellChange(SettingNode* node)
 {
+    m_regions.noteChange(node);
     if (m_isMaking)
         return;
     setModified(true);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <kit/mapregions.h>
 #include <kit/plugindeclaration.h>
 #include <kit/subjobnode.h>
 
@@ -86,6 +87,8 @@ public:
     const QString& ruleScript() const { return m_ruleScript; }
     /// A setting was changed.
     void tellChange(SettingNode* node);
+    /// The regions of the settings on the map.
+    MapRegions& regions() { return m_regions; }
     /// An editor of a parameter set, made by one of the components; null if none can.
     /// \param parent  owner, may be null
     QWidget* makeEditor(const HeldSet& set, QWidget* parent) const;
@@ -110,6 +113,7 @@ private:
     const PluginDeclaration m_declaration;
     QHash<QString, QStringList> m_childTypes; // By type; empty type: top level.
     QString m_ruleScript;
+    MapRegions m_regions{*this};
     bool m_isModified = false;
     bool m_isMaking = false; // Nodes that are not told about yet.
 };

@@ -29,6 +29,19 @@ struct SettingType
     int maxCount = 1;       ///< how many one parent may have; sub-jobs are not limited
 };
 
+/// Fields of a parameter set that are a region of the earth: Active, West, South, East and North (degrees), and Corner,
+/// a list of "LONGITUDE LATITUDE", which a receiver need not offer. A plain value.
+struct RegionFields
+{
+    QString parameterSet;
+    QString group; ///< path of the fields in the set: "Region"
+
+    bool operator==(const RegionFields& other) const
+    {
+        return parameterSet == other.parameterSet && group == other.group;
+    }
+};
+
 /// All that makes a plug-in on this kit different from another one. A plain value.
 struct PluginDeclaration
 {
@@ -43,6 +56,7 @@ struct PluginDeclaration
     bool hasDetector = false;          ///< sub-jobs can have a detector
     bool isDetectorPreset = false;     ///< new ones have, unless the user says otherwise
     bool hasPreClassifier = false;     ///< sub-jobs can have a pre-classifier
+    QList<RegionFields> regions = QList<RegionFields>(); ///< are shown on the map, see MapRegions
 };
 
 } // namespace PluginKit

@@ -1,5 +1,6 @@
 #include <kit/kitfactory.h>
 #include <kit/mimetext.h>
+#include <kit/regionbar.h>
 #include <kit/settingnode.h>
 #include <kit/settingpages.h>
 #include <kit/subjobnode.h>
@@ -10,6 +11,7 @@
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QTabWidget>
+#include <QVBoxLayout>
 #include <QWidget>
 #include <values/node.h>
 
@@ -35,6 +37,7 @@ SettingNode::SettingNode(KitFactory& factory, const SettingType& type, SettingNo
 
 SettingNode::~SettingNode()
 {
+    m_factory.regions().forget(this);
     dismantle();
 }
 
@@ -97,6 +100,8 @@ QList<Problem> SettingNode::problems() const
     QList<Problem> result;
     for (const auto& set : m_sets)
         result += set->problems();
+    for (const RegionFields& fields : m_factory.declared().regions)
+        result += problemsOfRegion(*this, fields);
     return result + m_factory.findProblems(*this);
 }
 
@@ -189,18 +194,23 @@ bool SettingNode::canDropSet(const QString& name)
     return owner && heldSet(name) && m_sets.size() > 1 && !owner->isMandatory(name);
 }
 
-QWidget* SettingNode::makePage(const QString& name, QWidget* parent) const
+QWidget* SettingNode::makePage(const QString& name, QWidget* parent)
 {
     // Made before its content: Tab goes through the widgets in the order in which they were made.
     auto* const area = new QScrollArea(parent);
-    QWidget* editor = m_factory.makeEditor(*heldSet(name), area);
+    QWidget* const page = makeRegionPage(name, area);
+    QWidget* const place = page ? page : area;
+    QWidget* editor = m_factory.makeEditor(*heldSet(name), place);
     if (!editor)
-        editor = new QLabel(Texts::tr("There is no editor for these settings. They stay as they are."), area);
-    editor->setEnabled(!isReadOnly());
+        editor =
+            new QLabel(Texts::tr("There is no editor for these settings. They stay as they are."), place);
+    if (page)
+        page->layout()->addWidget(editor);
     area->setObjectName(name);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
-    area->setWidget(editor);
+    area->setWidget(page ? page : editor);
+    area->widget()->setEnabled(!isReadOnly());
     area->setAccessibleName(JobXml::findParameterSet(name)->label());
     return area;
 }
@@ -217,6 +227,7 @@ bool SettingNode::holdSet(const QString& name, const QString& xml)
     if (!made->setText(xml))
         return false;
     m_sets.push_back(std::move(made));
+    m_factory.regions().noteChange(this);
     return true;
 }
 
@@ -266,13 +277,30 @@ QWidget* SettingNode::makeWidget()
     return tabs.release();
 }
 
-void SettingNode::addEditors(QTabWidget* tabs) const
+void SettingNode::addEditors(QTabWidget* tabs)
 {
     tabs->setAccessibleName(getDisplayName());
     for (const QString& name : m_type.parameterSets) {
         if (heldSet(name))
             tabs->addTab(makePage(name, tabs), JobXml::findParameterSet(name)->label());
     }
+}
+
+QWidget* SettingNode::makeRegionPage(const QString& set, QWidget* parent)
+{
+    QWidget* page = nullptr;
+    for (const RegionFields& fields : m_factory.declared().regions) {
+        Region region;
+        if (fields.parameterSet != set || !readRegion(*this, fields, &region))
+            continue;
+        if (!page) {
+            page = new QWidget(parent);
+            new QVBoxLayout(page);
+            page->layout()->setContentsMargins(0, 0, 0, 0);
+        }
+        page->layout()->addWidget(new RegionBar(m_factory.regions(), *this, fields, page));
+    }
+    return page;
 }
 
 void SettingNode::tellChange()

@@ -59,7 +59,7 @@ public:
     /// Whether an operator may take a set away: neither the last one, nor one that the receiver always has.
     bool canDropSet(const QString& name);
     /// The page on which a set that the node carries is edited. \param parent  its owner
-    QWidget* makePage(const QString& name, QWidget* parent) const;
+    QWidget* makePage(const QString& name, QWidget* parent);
 
     /// The sub-job that the node belongs to, itself for a sub-job.
     virtual SubjobNode* subjob();
@@ -81,7 +81,7 @@ protected:
     virtual QWidget* makeWidget();
     void lockEditors();
     /// Adds a tab for each parameter set.
-    void addEditors(QTabWidget* tabs) const;
+    void addEditors(QTabWidget* tabs);
     void tellChange();
 
     KitFactory& m_factory;
@@ -91,6 +91,7 @@ private:
     bool dropSet(const QString& name);
     void refreshPages();
     SubjobRules* rules();
+    QWidget* makeRegionPage(const QString& set, QWidget* parent);
 
     const SettingType& m_type;
     std::vector<std::unique_ptr<HeldSet>> m_sets; // In the order of the type.

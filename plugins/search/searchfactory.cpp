@@ -53,6 +53,7 @@ PluginKit::PluginDeclaration searchDeclaration()
     plugin.resourceTypes = QStringList{"HT720", "TRV9KScanSettings", "DirectionFinder"};
     plugin.ruleFile = "search.js";
     plugin.types = settingTypes();
+    plugin.regions = {{"DF_Settings", "Region"}};
     plugin.hasDetector = true;
     plugin.hasPreClassifier = true;
     return plugin;

@@ -1,19 +1,31 @@
 #include "mapobjects_p.h"
 
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QDir>
 #include <QtCore/QLockFile>
 
 namespace JEDVEPLUGIN {
 
 namespace {
-constexpr int LOCK_TIME = 1000; // ms
+constexpr int LOCK_TIME = 1000;        // ms
+constexpr int MOST_NAME_LETTERS = 120; // The system makes file names of keys, which end at 255 letters.
+
+QString hashOf(const QString& text)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex());
+}
+
+QString keyOf(const QString& name)
+{
+    return QStringLiteral("JOBEDITORVE_MAPVIEWLAYERMANAGER_LOCALINSTANCES_%1")
+        .arg(name.size() > MOST_NAME_LETTERS ? hashOf(name) : name);
+}
 
 // Making a segment resets its lock, so that "make it, else attach to it" loses counts when processes start at the
 // same time: all steps happen under a lock of their own.
 QString lockFileName(const QString& key)
 {
-    return QDir::temp().filePath(QString::fromLatin1(key.toUtf8().toBase64(QByteArray::Base64UrlEncoding)) +
-                                 QStringLiteral(".lock"));
+    return QDir::temp().filePath(QStringLiteral("jobeditorve-%1.lock").arg(hashOf(key)));
 }
 
 bool makeOrAttach(QSharedMemory& memory)
@@ -33,7 +45,7 @@ bool makeOrAttach(QSharedMemory& memory)
 
 int InstanceCounter::enter(const QString& name)
 {
-    const QString key = QStringLiteral("JOBEDITORVE_MAPVIEWLAYERMANAGER_LOCALINSTANCES_%1").arg(name);
+    const QString key = keyOf(name);
     QLockFile steps(lockFileName(key));
     if (!steps.tryLock(LOCK_TIME))
         return 0;

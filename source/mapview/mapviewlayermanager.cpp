@@ -40,6 +40,12 @@ QVector<QPointF> cornersOf(const QRectF& rect)
     return {QPointF(rect.x(), rect.y()), QPointF(rect.x() + rect.width(), rect.y() + rect.height())};
 }
 
+// The map says what it likes; a place that is no number would spread into the settings.
+bool areNumbers(std::initializer_list<double> coordinates)
+{
+    return std::all_of(coordinates.begin(), coordinates.end(), [](double one) { return std::isfinite(one); });
+}
+
 // Moves the edges of a rectangle. \return false, with nothing changed, if they are where they were
 bool moveEdges(const MST_EVENT_GROUP_MOVE_EX& event, QVector<QPointF>& points)
 {
@@ -256,7 +262,7 @@ void MapViewLayerManager::on_MST_EVENT_GROUP_MOVE(const MST_EVENT_GROUP_MOVE& ev
 {
     tObjectID id = 0;
     ObjectRecord* const record = m_data->recordOf(event.id, &id);
-    if (!record || record->type != TYPE_POLYGON ||
+    if (!record || record->type != TYPE_POLYGON || !areNumbers({event.dx, event.dy}) ||
         (std::abs(event.dx) < SAME_PLACE && std::abs(event.dy) < SAME_PLACE))
         return;
     for (QPointF& point : record->points)
@@ -268,14 +274,17 @@ void MapViewLayerManager::on_MST_EVENT_GROUP_MOVE_EX(const MST_EVENT_GROUP_MOVE_
 {
     tObjectID id = 0;
     ObjectRecord* const record = m_data->recordOf(event.id, &id);
-    if (!record || record->type != TYPE_RECT || !moveEdges(event, record->points))
+    if (!record || record->type != TYPE_RECT ||
+        !areNumbers({event.left, event.top, event.right, event.bottom}) || !moveEdges(event, record->points))
         return;
     emit rectMoved(id, QRectF(record->points[0], record->points[1]));
 }
 
 void MapViewLayerManager::on_MST_EVENT_VISIBLE_WW(const MST_EVENT_VISIBLE_WW& event)
 {
-    m_data->visibleArea = {QPointF(event.first.x, event.first.y), QPointF(event.second.x, event.second.y)};
+    if (areNumbers({event.first.x, event.first.y, event.second.x, event.second.y}))
+        m_data->visibleArea = {QPointF(event.first.x, event.first.y),
+                               QPointF(event.second.x, event.second.y)};
 }
 
 void MapViewLayerManager::on_MST_EVENT_POLY_CREATE(const MST_EVENT_POLY_CREATE& event)
@@ -285,8 +294,11 @@ void MapViewLayerManager::on_MST_EVENT_POLY_CREATE(const MST_EVENT_POLY_CREATE& 
     if (!record || record->type != TYPE_USER_POLYGON)
         return;
     QPolygonF polygon;
-    for (const MST_POINT& point : event.points)
+    for (const MST_POINT& point : event.points) {
+        if (!areNumbers({point.x, point.y}))
+            return;
         polygon.append(QPointF(point.x, point.y));
+    }
     record->points = polygon;
     record->type = TYPE_POLYGON;
     m_data->userPolygon = 0;

@@ -501,6 +501,11 @@ void TstJobSession::scenarioIsRun()
             m_drawn.append(file + " " + type + " " + detector);
             return true;
         }
+        bool drawMap(ISubSetting* current, const QString& file) override
+        {
+            m_drawn.append(file + " map " + current->getSettingType());
+            return true;
+        }
         QStringList m_drawn;
     } recorder;
     SessionRunner runner(m_session.get(), &recorder);

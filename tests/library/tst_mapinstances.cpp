@@ -95,6 +95,8 @@ private slots:
 
     void furtherProcessesHaveNumbers();
     void countStandsInASegmentOfItsName();
+    void longNamesHaveNumbersToo_data();
+    void longNamesHaveNumbersToo();
     void otherNamesAreCountedApart();
     void onlyProcessIsKilled();
     void oneOfSeveralIsKilled();
@@ -138,6 +140,28 @@ void TstMapInstances::countStandsInASegmentOfItsName()
     QCOMPARE(count, 4);
     fourth.close();
     QCOMPARE(count, 3);
+}
+
+void TstMapInstances::longNamesHaveNumbersToo_data()
+{
+    QTest::addColumn<QString>("letters");
+    QTest::newRow("120") << QString(120 - m_name.size(), 'x');
+    QTest::newRow("121") << QString(121 - m_name.size(), 'x');
+    QTest::newRow("5000") << QString(5000, 'x');
+    QTest::newRow("120 of two bytes") << QString(120 - m_name.size(), QChar(0xe4));
+    QTest::newRow("1000 of three bytes") << QString(1000, QChar(0x5730));
+}
+
+void TstMapInstances::longNamesHaveNumbersToo()
+{
+    QFETCH(QString, letters);
+    const QString name = m_name + letters;
+    Editor first(name);
+    QCOMPARE(first.name(), name);
+    Editor other(name + "x");
+    QCOMPARE(other.name(), name + "x");
+    Editor second(name);
+    QCOMPARE(second.name(), name + " (1)");
 }
 
 void TstMapInstances::otherNamesAreCountedApart()

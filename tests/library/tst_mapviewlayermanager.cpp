@@ -67,6 +67,8 @@ private slots:
     void shapeIsDeletedOnTheMap();
     void layerIsDeletedOnTheMap();
     void visibleAreaIsKept();
+    void placesThatAreNoNumbersAreIgnored_data();
+    void placesThatAreNoNumbersAreIgnored();
     void objectIsShown();
 
     void everythingIsDrawnAfterTheLinkCame();
@@ -581,6 +583,57 @@ void TstMapViewLayerManager::visibleAreaIsKept()
     QVERIFY(manager().visibleWW(first, second));
     QCOMPARE(first, QPointF());
     QCOMPARE(second, QPointF());
+}
+
+void TstMapViewLayerManager::placesThatAreNoNumbersAreIgnored_data()
+{
+    QTest::addColumn<double>("bad");
+    QTest::newRow("NaN") << qQNaN();
+    QTest::newRow("infinity") << qInf();
+    QTest::newRow("minus infinity") << -qInf();
+}
+
+void TstMapViewLayerManager::placesThatAreNoNumbersAreIgnored()
+{
+    QFETCH(double, bad);
+    QSignalSpy rects(&manager(), &MapViewLayerManager::rectMoved);
+    QSignalSpy polygons(&manager(), &MapViewLayerManager::polygonMoved);
+    QSignalSpy created(&manager(), &MapViewLayerManager::polygonCreated);
+    m_map->send(MAP_VISIBLE_AREA, 0, {QPointF(-10, 60), QPointF(20, 40)});
+    m_ids.append(manager().addRect("numbers", "r", QRectF(1, 2, 3, 4), ""));
+    lines();
+    const int rect = lastId(MAP_CREATE_GROUP);
+    m_ids.append(manager().addPolygon("numbers", "p", triangle(8), ""));
+    lines();
+    const int polygon = lastId(MAP_CREATE_GROUP);
+    m_ids.append(manager().createPolygonByUser("numbers", "u"));
+    lines();
+    const int drawn = lastId(MAP_CREATE_EDITABLE);
+    // Each coordinate of each event in turn.
+    for (int i = 0; i < 4; ++i) {
+        double at[] = {0, 8, 9, 1};
+        at[i] = bad;
+        const QVector<QPointF> points{{at[0], at[1]}, {at[2], at[3]}};
+        m_map->send(MAP_GROUP_RESIZED, rect, points);
+        m_map->send(MAP_VISIBLE_AREA, 0, points);
+        m_map->send(MAP_GROUP_MOVED, polygon, points.mid(i / 2, 1));
+        m_map->send(MAP_POLYGON_DRAWN, drawn, points + QVector<QPointF>{{5, 5}});
+    }
+    // The next ones count, and begin where things were.
+    m_map->send(MAP_GROUP_RESIZED, rect, {QPointF(1, 6), QPointF(5, 2)});
+    m_map->send(MAP_GROUP_MOVED, polygon, {QPointF(1, 0)});
+    m_map->send(MAP_POLYGON_DRAWN, drawn, triangle(3));
+    QTRY_COMPARE(created.size(), 1);
+    QCOMPARE(created[0][1].value<QPolygonF>(), triangle(3));
+    QCOMPARE(rects.size(), 1);
+    QCOMPARE(rects[0][1].toRectF().normalized(), QRectF(1, 2, 4, 4));
+    QCOMPARE(polygons.size(), 1);
+    QCOMPARE(polygons[0][1].value<QPolygonF>(), triangle(9));
+    QPointF first;
+    QPointF second;
+    QVERIFY(manager().visibleWW(first, second));
+    QCOMPARE(first, QPointF(-10, 60));
+    QCOMPARE(second, QPointF(20, 40));
 }
 
 void TstMapViewLayerManager::objectIsShown()
