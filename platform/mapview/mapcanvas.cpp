@@ -24,7 +24,6 @@ MapCanvas::MapCanvas(MapScene* scene, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(200, 150);
     connect(m_scene, &MapScene::changed, this, &MapCanvas::invalidate);
-    connect(m_scene, &MapScene::layersChanged, this, &MapCanvas::invalidateAll);
     connect(m_scene, &MapScene::paintingChanged, this, QOverload<>::of(&QWidget::update));
     connect(m_scene, &MapScene::selectionChanged, this, &MapCanvas::describeSelection);
     connect(m_scene, &MapScene::showRequested, this, &MapCanvas::showGroup);
@@ -39,15 +38,13 @@ void MapCanvas::shift(const QPoint& pixels)
     const QPoint moved = before - m_view.origin();
     if (moved.isNull())
         return;
-    refresh();
     const QPointF scaled = QPointF(moved) * devicePixelRatioF();
-    if (QPointF(scaled.toPoint()) == scaled && !m_picture.isNull()) {
-        m_picture.scroll(scaled.toPoint().x(), scaled.toPoint().y(), m_picture.rect());
-        m_dirty = QRegion(rect()).subtracted(rect().translated(moved));
-        update();
-    } else {
-        invalidateAll();
-    }
+    if (QPointF(scaled.toPoint()) != scaled || m_picture.isNull())
+        return viewHasChanged();
+    m_picture.scroll(scaled.toPoint().x(), scaled.toPoint().y(), m_picture.rect());
+    m_dirty =
+        m_dirty.translated(moved).intersected(rect()) + QRegion(rect()).subtracted(rect().translated(moved));
+    update();
     emit viewChanged(m_view.area());
 }
 
@@ -122,9 +119,7 @@ void MapCanvas::eraseSelection()
 
 void MapCanvas::paintEvent(QPaintEvent* event)
 {
-    // While a client draws much, what was there before is good enough.
-    if (m_scene->isPainting() || m_picture.isNull())
-        refresh();
+    refresh();
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawPixmap(0, 0, m_picture);
@@ -154,6 +149,7 @@ void MapCanvas::invalidate(const QRectF& degrees)
     m_dirty += pixels.toAlignedRect();
     if (m_dirty.rectCount() > MANY_PARTS)
         m_dirty = m_dirty.boundingRect();
+    // While a client draws much, the map is painted for other reasons only.
     if (m_scene->isPainting())
         update();
 }

@@ -78,6 +78,7 @@ ObjectsPane::ObjectsPane(MapScene* scene, QWidget* parent)
 void ObjectsPane::fill()
 {
     const QSignalBlocker quiet(this);
+    const MapKey current = currentItem() ? currentItem()->data(ROLE_KEY).toULongLong() : 0;
     clear();
     const QVector<MapKey> keys = m_scene->visibleGroups();
     for (const MapKey key : keys) {
@@ -85,6 +86,7 @@ void ObjectsPane::fill()
         auto* const item = new QListWidgetItem(name.isEmpty() ? tr("Object without a name") : name, this);
         item->setData(ROLE_KEY, key);
     }
+    setCurrentRow(keys.indexOf(current), QItemSelectionModel::NoUpdate);
     followMap();
 }
 

@@ -74,6 +74,12 @@ const QRectF& MapScene::world()
     return area;
 }
 
+MapScene::MapScene()
+{
+    m_selectionTimer.setSingleShot(true);
+    connect(&m_selectionTimer, &QTimer::timeout, this, &MapScene::selectionChanged);
+}
+
 int MapScene::addClient(const QString& name)
 {
     m_clients.insert(++m_lastClient, {name, 0});
@@ -368,7 +374,7 @@ void MapScene::removeGroup(MapKey key)
     --m_clients[clientOf(key)].points;
     m_groups.take(key)->groups.erase(idOf(key));
     if (m_selection.remove(key))
-        emit selectionChanged();
+        m_selectionTimer.start();
     emit objectsChanged();
 }
 

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QRectF>
 #include <QSet>
+#include <QTimer>
 #include <vector>
 
 /// An object of any client: the client's number and the object's id.
@@ -58,6 +59,8 @@ public:
     static constexpr int MAX_POINTS = 2000000;
     static const QRectF& world(); ///< (-180, -90) to (180, 90)
 
+    MapScene();
+
     /// \return the client's number, from 1
     int addClient(const QString& name);
     /// All that it has drawn goes with it.
@@ -103,6 +106,7 @@ signals:
     void layersChanged();
     /// Objects came, went or have another name.
     void objectsChanged();
+    /// A moment later when selected objects go.
     void selectionChanged();
     void paintingChanged();
     void pendingPolygonChanged();
@@ -140,7 +144,8 @@ private:
     QHash<MapKey, MapKey> m_shapes;    // The group of each shape.
     QSet<MapKey> m_selection;
     QVector<MapKey> m_pending;
-    QSet<int> m_silent; // Clients that have painting off.
+    QSet<int> m_silent;      // Clients that have painting off.
+    QTimer m_selectionTimer; // Much of what is selected may go at once.
 };
 
 template <typename Visitor>

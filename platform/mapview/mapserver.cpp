@@ -42,7 +42,9 @@ void MapConnection::send(const MapMessage& message)
     if (m_socket->bytesToWrite() > WAITING_LIMIT)
         return drop(tr("it does not read"));
     m_socket->write(message.toFrame());
-    m_socket->flush();
+    // What the user has done is with the client, even if the map ends now.
+    if (message.kind != MAP_GROUP_SELECTED && message.kind != MAP_GROUP_DESELECTED)
+        m_socket->flush();
 }
 
 void MapConnection::setVisibleArea(const QRectF& area)

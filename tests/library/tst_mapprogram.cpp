@@ -1,3 +1,4 @@
+#include <ctime>
 #include <mapviewlayermanager.h>
 #include <QElapsedTimer>
 #include <QFile>
@@ -8,6 +9,7 @@
 #include <QTimer>
 #include <support/drivenmap.h>
 #include <support/testmain.h>
+#include <sys/resource.h>
 
 using JedTest::DrivenMap;
 using JEDVEPLUGIN::MapViewLayerManager;
@@ -29,6 +31,25 @@ QString rectText(const QString& name, const QRectF& rect)
         .arg(rect.bottom())
         .arg(rect.right())
         .arg(rect.top());
+}
+
+struct Moment
+{
+    qint64 time; // ns
+    qint64 work; // ns of this thread
+    long waits;  // How often the thread has waited for something.
+};
+
+Moment now()
+{
+    const auto nanoseconds = [](clockid_t clock) {
+        timespec time{};
+        clock_gettime(clock, &time);
+        return time.tv_sec * 1000000000LL + time.tv_nsec;
+    };
+    rusage usage{};
+    getrusage(RUSAGE_THREAD, &usage);
+    return {nanoseconds(CLOCK_MONOTONIC), nanoseconds(CLOCK_THREAD_CPUTIME_ID), usage.ru_nvcsw};
 }
 
 /// Kilobytes that a process holds in memory.
@@ -272,10 +293,12 @@ void TstMapProgram::stoppedMapHoldsNobodyUp()
     m_map->suspend();
     qint64 longest = 0;
     const auto timed = [&longest](const auto& call) {
-        QElapsedTimer timer;
-        timer.start();
+        const Moment before = now();
         call();
-        longest = std::max(longest, timer.nsecsElapsed());
+        const Moment after = now();
+        // On a busy machine a call is interrupted; that is not its time, unless it waited for something.
+        const bool hasWaited = after.waits != before.waits;
+        longest = std::max(longest, hasWaited ? after.time - before.time : after.work - before.work);
     };
     QElapsedTimer stopped;
     stopped.start();

@@ -556,12 +556,17 @@ void TstMapServer::listLeadsAndFollows()
     m_window->canvas()->zoom(30);
     emit objects->itemActivated(objects->item(1));
     QVERIFY(m_window->canvas()->viewport().area().contains(QPointF(71, 3)));
+    // The row where one is stays when the list changes.
+    objects->setCurrentRow(1);
+    peer.say(rectFrames(14, "C", 1, 4, 3, 2));
+    QTRY_COMPARE(objects->count(), 3);
+    QCOMPARE(objects->currentRow(), 1);
     // One that has gone and is still in the list does no harm.
     peer.say(command(MAP_DELETE, 12, 0, "", {}, 172).toFrame());
-    QTRY_COMPARE(m_window->scene()->visibleGroups().size(), 1);
-    if (objects->count() == 2)
+    QTRY_COMPARE(m_window->scene()->visibleGroups().size(), 2);
+    if (objects->count() == 3)
         emit objects->itemActivated(objects->item(1));
-    QTRY_COMPARE(objects->count(), 1);
+    QTRY_COMPARE(objects->count(), 2);
 }
 
 void TstMapServer::everyControlHasAName()
