@@ -31,13 +31,6 @@ QPoint directionOf(int key)
     }
     return QPoint();
 }
-
-QPointF onWorld(const QPointF& place)
-{
-    const QRectF& world = MapScene::world();
-    return QPointF(qBound(world.left(), place.x(), world.right()),
-                   qBound(world.top(), place.y(), world.bottom()));
-}
 } // namespace
 
 bool MapCanvas::event(QEvent* event)
@@ -84,7 +77,7 @@ void MapCanvas::mousePressEvent(QMouseEvent* event)
 
 void MapCanvas::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPointF place = onWorld(m_view.toDegrees(QPointF(event->pos())));
+    const QPointF place = MapScene::onWorld(m_view.toDegrees(QPointF(event->pos())));
     emit pointed(place);
     if (m_drawing != 0) {
         m_cross = place;
@@ -109,7 +102,7 @@ void MapCanvas::mouseReleaseEvent(QMouseEvent* event)
     if (m_isDragged)
         endGesture(event->pos());
     else if (event->button() == Qt::LeftButton && m_drawing != 0)
-        addPoint(onWorld(m_view.toDegrees(QPointF(event->pos()))));
+        addPoint(MapScene::onWorld(m_view.toDegrees(QPointF(event->pos()))));
     else if (event->button() == Qt::LeftButton)
         click(event->pos(), event->modifiers());
     m_gesture = GESTURE_NONE;
@@ -269,7 +262,7 @@ void MapCanvas::startDrawing()
         return;
     m_drawing = key;
     m_points.clear();
-    m_cross = onWorld(m_view.toDegrees(m_view.middle()));
+    m_cross = MapScene::onWorld(m_view.toDegrees(m_view.middle()));
     setCursor(key == 0 ? Qt::ArrowCursor : Qt::CrossCursor);
     if (key != 0)
         emit hint(tr("Draw %1: a click or Enter sets a point, a double click or Enter again ends, Backspace "
@@ -282,7 +275,7 @@ bool MapCanvas::drawByKey(int key, const QPoint& direction, Qt::KeyboardModifier
 {
     if (!direction.isNull()) {
         const QPoint step = direction * (modifiers & Qt::ControlModifier ? 1 : LARGE_STEP);
-        m_cross = onWorld(m_cross + offsetInDegrees(step));
+        m_cross = MapScene::onWorld(m_cross + offsetInDegrees(step));
         if (!m_view.area().contains(m_cross)) {
             m_view.center(m_cross);
             viewHasChanged();

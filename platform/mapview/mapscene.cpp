@@ -6,6 +6,8 @@
 #include <QStringList>
 
 namespace {
+constexpr double FARTHEST = 10000; // Degrees.
+
 int clientOf(MapKey key)
 {
     return int(key >> 32);
@@ -47,31 +49,30 @@ void setProperties(const QString& text, MapLayer* layer)
     layer->canMoveObjects = layer->canMoveObjects && isEditable;
 }
 
-bool areNumbers(const QVector<QPointF>& points)
+// Whatever lies farther away is no place; a comparison with what is no number is false, too.
+bool arePlaces(const QVector<QPointF>& points)
 {
     return std::all_of(points.begin(), points.end(), [](const QPointF& point) {
-        return std::isfinite(point.x()) && std::isfinite(point.y());
+        return std::abs(point.x()) <= FARTHEST && std::abs(point.y()) <= FARTHEST;
     });
 }
+} // namespace
 
 QVector<QPointF> cornersOf(const QRectF& box)
 {
     return {QPointF(box.left(), box.bottom()), QPointF(box.right(), box.top())};
-}
-} // namespace
-
-QVector<QPointF> MapGroup::outline() const
-{
-    if (kind != RECT)
-        return points;
-    return {points[0], QPointF(points[1].x(), points[0].y()), points[1],
-            QPointF(points[0].x(), points[1].y())};
 }
 
 const QRectF& MapScene::world()
 {
     static const QRectF area(-180, -90, 360, 180);
     return area;
+}
+
+QPointF MapScene::onWorld(const QPointF& place)
+{
+    return QPointF(qBound(world().left(), place.x(), world().right()),
+                   qBound(world().top(), place.y(), world().bottom()));
 }
 
 MapScene::MapScene()
@@ -136,8 +137,7 @@ const MapGroup* MapScene::group(MapKey key) const
 QVector<MapKey> MapScene::visibleGroups() const
 {
     QVector<MapKey> keys;
-    constexpr double EVERYWHERE = 1e300;
-    visit(QRectF(-EVERYWHERE, -EVERYWHERE, 2 * EVERYWHERE, 2 * EVERYWHERE),
+    visit(QRectF(-FARTHEST, -FARTHEST, 2 * FARTHEST, 2 * FARTHEST),
           [&keys](const MapLayer&, const MapGroup& group) { keys.append(group.key); });
     return keys;
 }
@@ -201,7 +201,7 @@ void MapScene::resize(MapKey key, const QRectF& box)
     MapGroup* const group = canMove(key) ? findGroup(key) : nullptr;
     if (!group || group->kind != MapGroup::RECT || box == group->box)
         return;
-    setPoints(group, cornersOf(box.intersected(world())));
+    setPoints(group, cornersOf(QRectF(onWorld(box.topLeft()), onWorld(box.bottomRight()))));
     tell(MAP_GROUP_RESIZED, key, group->points);
 }
 
@@ -307,7 +307,7 @@ void MapScene::createShape(int client, const MapMessage& message, MapGroup::Kind
 {
     const MapKey shape = mapKey(client, message.id);
     MapGroup* const group = findGroup(mapKey(client, message.parent));
-    if (!group || message.id <= 0 || m_shapes.contains(shape) || !areNumbers(message.points))
+    if (!group || message.id <= 0 || m_shapes.contains(shape) || !arePlaces(message.points))
         return;
     clearShape(group);
     group->kind = kind;

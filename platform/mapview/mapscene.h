@@ -18,6 +18,9 @@ inline MapKey mapKey(int client, qint32 id)
     return quint64(client) << 32 | quint32(id);
 }
 
+/// Left top and right bottom of a box whose top is the smallest latitude.
+QVector<QPointF> cornersOf(const QRectF& box);
+
 /// One shape on the map, in the group that holds it. Places are in degrees.
 struct MapGroup
 {
@@ -32,7 +35,6 @@ struct MapGroup
     QRectF box;              // Around the points; its top is the smallest latitude.
 
     bool isDrawn() const { return kind == RECT || kind == POLYGON; }
-    QVector<QPointF> outline() const;
 };
 
 struct MapLayer
@@ -57,7 +59,8 @@ class MapScene : public QObject
 public:
     /// What one client may have on the map, counted in points; a group counts as one.
     static constexpr int MAX_POINTS = 2000000;
-    static const QRectF& world(); ///< (-180, -90) to (180, 90)
+    static const QRectF& world();                 ///< (-180, -90) to (180, 90)
+    static QPointF onWorld(const QPointF& place); ///< the nearest one there
 
     MapScene();
 

@@ -13,11 +13,6 @@ constexpr int CHUNK = 64 * 1024;                // Bytes; small, since messages 
 constexpr int READ_BUFFER = 1024 * 1024;        // Bytes; a client that sends more has to wait.
 constexpr int WAITING_LIMIT = 16 * 1024 * 1024; // Bytes that a client may leave unread.
 constexpr int TURN_TIME = 10;                   // ms of work before events of the user have their turn
-
-QVector<QPointF> cornersOf(const QRectF& area)
-{
-    return {QPointF(area.left(), area.bottom()), QPointF(area.right(), area.top())};
-}
 } // namespace
 
 MapConnection::MapConnection(QLocalSocket* socket, MapScene* scene, QObject* parent)

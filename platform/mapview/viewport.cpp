@@ -49,10 +49,8 @@ void Viewport::show(const QRectF& degrees)
 
 void Viewport::center(const QPointF& degrees)
 {
-    const QRectF world = MapScene::world();
-    const double x = qBound(world.left(), degrees.x(), world.right());
-    const double y = qBound(world.top(), degrees.y(), world.bottom());
-    setOrigin((QPointF(x * m_scale, -y * m_scale) - middle()).toPoint());
+    const QPointF place = MapScene::onWorld(degrees) * m_scale;
+    setOrigin((QPointF(place.x(), -place.y()) - middle()).toPoint());
 }
 
 void Viewport::showWorld()

@@ -104,6 +104,7 @@ private slots:
     void shapesAreMovedByKeys();
     void moveEndsAtTheEdgeOfTheWorld();
     void cornerIsDragged();
+    void rectangleMayLoseItsWidth();
     void cornerIsMovedByKeys();
     void shapesThatMayNotBeMovedStay();
     void deleteDeletesWhatMayBeDeleted();
@@ -467,6 +468,19 @@ void TstMapCanvas::cornerIsDragged()
     // Over the opposite corner.
     drag(pixel(0, 20), pixel(40, -30));
     QCOMPARE(takeTold(), QStringList{line(MAP_GROUP_RESIZED, box, " 25,-10 40,-30")});
+}
+
+void TstMapCanvas::rectangleMayLoseItsWidth()
+{
+    const int box = addRect(0, 20, 20, 0);
+    m_scene->select({mapKey(m_client, box)});
+    takeTold();
+    drag(pixel(20, 0), pixel(0, 0));
+    QCOMPARE(takeTold(), QStringList{line(MAP_GROUP_RESIZED, box, " 0,20 0,0")});
+    // What is left can be taken hold of.
+    drag(pixel(0, 0), pixel(30, -5));
+    QCOMPARE(takeTold().size(), 1);
+    QVERIFY(m_scene->group(mapKey(m_client, box))->box.width() > 0);
 }
 
 void TstMapCanvas::cornerIsMovedByKeys()

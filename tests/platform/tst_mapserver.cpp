@@ -344,6 +344,7 @@ void TstMapServer::whatMakesNoSenseIsLeftOut()
           command(MAP_CREATE_RECT, 22, 10, "", {QPointF(0, 0)}),
           command(MAP_CREATE_RECT, 22, 10, "", {QPointF(0, no), QPointF(1, 1)}),
           command(MAP_CREATE_POLYGON, 23, 10, "", {QPointF(0, 0), QPointF(infinite, 1)}),
+          command(MAP_CREATE_RECT, 24, 10, "", {QPointF(-1e300, 0), QPointF(1e300, 1)}),
           command(MAP_TOOL_TIP, 99),
           command(MAP_DELETE, 10, 0, "", {}, 171),
           command(MAP_DELETE, 10, 0, "", {}, 173),
@@ -359,7 +360,7 @@ void TstMapServer::whatMakesNoSenseIsLeftOut()
     QTRY_COMPARE(sceneText(), QString("editor Regions: Good 1,4..3,2 Last 1,4..3,2"));
     QVERIFY(peer.isOpen());
     // Far away and of no size it may be; painting survives it.
-    peer.say(rectFrames(40, "Far", -1e300, 1e300, 1e300, -1e300) + rectFrames(42, "Point", 7, 7, 7, 7) +
+    peer.say(rectFrames(40, "Far", -9000, 9000, 9000, -9000) + rectFrames(42, "Point", 7, 7, 7, 7) +
              command(MAP_SELECT, 40, 0, "", {}, 6).toFrame());
     QTRY_COMPARE(m_window->scene()->selection().size(), 1);
     m_window->grab();
