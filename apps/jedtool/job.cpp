@@ -266,7 +266,8 @@ Noun jobNoun()
         {"set", "SET/FIELD=VALUE", QT_TRANSLATE_NOOP("jedtool", "a value of the sub-job")},
         {"out", "FILE", QT_TRANSLATE_NOOP("jedtool", "the job file to write")},
         {"scenario", "FILE", QT_TRANSLATE_NOOP("jedtool", "run this scenario instead of the options above")},
-        {"plugin", "NAME", QT_TRANSLATE_NOOP("jedtool", "compose through this plug-in, as the editor does")},
+        {"plugin", "NAME",
+         QT_TRANSLATE_NOOP("jedtool", "compose through this plug-in and its rules, as the editor does")},
         {"plugin-dir", "DIR", QT_TRANSLATE_NOOP("jedtool", "a further folder with plug-ins")},
         {"print-scenario", nullptr, QT_TRANSLATE_NOOP("jedtool", "show the scenario, run nothing")},
     };

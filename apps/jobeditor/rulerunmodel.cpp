@@ -1,6 +1,7 @@
 #include "rulerunmodel.h"
 
 #include <algorithm>
+#include <QDir>
 #include <QGuiApplication>
 #include <QPalette>
 #include <session/fieldplaces.h>
@@ -16,6 +17,7 @@ struct RuleRunModel::Row
     int number = 0;        // Among its siblings; of outermost runs, since the model was made.
     QString texts[COLUMN_COUNT];
     QString path;
+    QString script; // Of a run.
     bool isFault = false;
     bool isUnused = false;
     std::vector<std::unique_ptr<Row>> children;
@@ -109,8 +111,11 @@ QVariant RuleRunModel::data(const QModelIndex& index, int role) const
         return QVariant();
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return row->texts[index.column()];
+    case Qt::ToolTipRole:
+        return index.column() == COLUMN_RULE && !row->script.isEmpty()
+                   ? row->texts[COLUMN_RULE] + QLatin1Char('\n') + QDir::toNativeSeparators(row->script)
+                   : row->texts[index.column()];
     case Qt::ForegroundRole:
         return row->isFault ? faultColour() : QVariant();
     case PATH_ROLE:
@@ -160,6 +165,7 @@ std::unique_ptr<RuleRunModel::Row> RuleRunModel::makeRun(const RuleRun& run, Row
     row->parent = parent;
     row->number = number;
     row->path = run.trigger.path;
+    row->script = run.scriptFile;
     row->isUnused = run.isEmpty();
     row->texts[COLUMN_RULE] =
         run.isFunctionMissing ? tr("%1 (not in the script)").arg(run.function) : run.function;

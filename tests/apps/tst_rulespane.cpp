@@ -170,6 +170,7 @@ void TstRulesPane::modelShowsRuns()
                           " b (not in the script) | B: 0 \u2192 1", "g | ",
                           " Stopped | It ran for too long. What it had changed stays changed."}));
     QCOMPARE(model.index(0, 0).data(RuleRunModel::PATH_ROLE).toString(), setup.m_bench.path("A"));
+    QCOMPARE(model.index(0, 0).data(Qt::ToolTipRole).toString(), "f\n" + log.runs()[0]->scriptFile);
     QCOMPARE(model.index(0, RuleRunModel::COLUMN_TIME).data().toString(),
              log.runs()[0]->time.toString("HH:mm:ss.zzz"));
     QCOMPARE(model.headerData(RuleRunModel::COLUMN_TIME, Qt::Horizontal).toString(), QString("Time (UTC)"));
