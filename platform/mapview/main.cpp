@@ -12,7 +12,6 @@ namespace {
 void useLanguage(const QString& installation)
 {
     CfgCenter* const center = CfgCenter::Instance();
-    center->SetDefaultInstallation(QStringLiteral(JED_EXAMPLE_INSTALLATION));
     center->SetInstallation(installation);
     TranslationCenter* const translations = TranslationCenter::Instance();
     translations->AddFolder(QDir::cleanPath(QCoreApplication::applicationDirPath() +

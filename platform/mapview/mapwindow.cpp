@@ -31,10 +31,12 @@ MapWindow::MapWindow()
     resize(1100, 700);
 }
 
-// The server tells the scene that its clients go.
+// All that looks at the scene goes before it.
 MapWindow::~MapWindow()
 {
     delete m_server;
+    delete m_canvas;
+    qDeleteAll(findChildren<QDockWidget*>());
 }
 
 bool MapWindow::listen(const QString& name, QString* error)

@@ -26,7 +26,6 @@ public:
     {
         return QRectF(toPixels(degrees.bottomLeft()), toPixels(degrees.topRight()));
     }
-    QSize size() const { return m_size; }
     QPointF middle() const { return QPointF(m_size.width() / 2.0, m_size.height() / 2.0); }
     double scale() const { return m_scale; } ///< pixels per degree
     QPoint origin() const { return m_origin; }

@@ -18,6 +18,13 @@ using Id = MapViewLayerManager::tObjectID;
 namespace {
 const QString SERVER = QString("jed-test-program-%1").arg(QCoreApplication::applicationPid());
 
+// The sanitizer keeps for a while what was freed.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool CAN_MEASURE_MEMORY = false;
+#else
+constexpr bool CAN_MEASURE_MEMORY = true;
+#endif
+
 bool isSlow()
 {
     return qEnvironmentVariableIsSet("JED_SLOW_TESTS");
@@ -318,7 +325,7 @@ void TstMapProgram::stoppedMapHoldsNobodyUp()
           double(longest) / 1e6, growth, updates);
     QVERIFY(longest < WATCHDOG * 1000000LL);
     // The newest state of each object waits, however often it changed: nothing that grows with the updates.
-    QVERIFY2(growth < 12 * 1024, qPrintable(QString::number(growth)));
+    QVERIFY2(growth < 12 * 1024 || !CAN_MEASURE_MEMORY, qPrintable(QString::number(growth)));
     m_map->resume();
     manager().removeObjects(ids.mid(2));
     const QString text = "Regions: | R 0,2 2,0 | R 1,3 3,1";
@@ -411,7 +418,7 @@ void TstMapProgram::floodDoesNotFillTheMemory()
     most = std::max(most, memoryOf(m_map->processId()) - before);
     QCOMPARE(flood.state(), QLocalSocket::ConnectedState);
     qInfo("the map took %lld KB more", most);
-    QVERIFY2(most < LIMIT, qPrintable(QString::number(most)));
+    QVERIFY2(most < LIMIT || !CAN_MEASURE_MEMORY, qPrintable(QString::number(most)));
     flood.write("xxxx");
     QTRY_COMPARE(flood.state(), QLocalSocket::UnconnectedState);
     // And it goes on with others.
