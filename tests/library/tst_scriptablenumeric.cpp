@@ -261,14 +261,15 @@ void TstScriptableNumeric::copiesInt64ThroughDoubles()
 
 /// The value is written while the old bounds hold.
 namespace {
-/// The value comes first, and is cut by the bounds that are still the old ones.
+/// The value comes first, and is cut by the bounds that are still the old ones; then the minimum, which takes the
+/// old maximum along, and the value with it.
 template <class Object, class T>
 QString changesOfACopy()
 {
     RuleBench bench;
     T* const from = bench.value<T>("from");
     T* const to = bench.value<T>("to");
-    from->SetMinMax(0, 1000, 1);
+    from->SetMinMax(200, 1000, 1);
     from->SetValue(500);
     to->SetMinMax(1, 100, 2);
     QStringList log;
@@ -289,7 +290,7 @@ QString changesOfACopy()
 
 void TstScriptableNumeric::copyOrderShowsInTheResult()
 {
-    const QString expected = "100 in 0 to 1000, step 2: to:3 to:4 to:4";
+    const QString expected = "200 in 200 to 1000, step 2: to:3 to:4 to:3 to:4";
     QCOMPARE((changesOfACopy<ScriptableNumericInt, NumericInt>()), expected);
     QCOMPARE((changesOfACopy<ScriptableNumericInt64, NumericInt64>()), expected);
     QCOMPARE((changesOfACopy<ScriptableNumericFloat, NumericDouble>()), expected);
