@@ -133,6 +133,25 @@ QVector<RuleObservation> merged(QVector<RuleObservation> read, const QVector<Rul
     return read;
 }
 
+// Triggers of which the ends of the range could not be tried.
+Findings boundless(const RuleScript& script, const QVector<RuleScope>& scopes)
+{
+    Findings result;
+    QSet<QString> told;
+    for (const RuleScope& scope : scopes) {
+        for (const RuleObject& object : scope.objects) {
+            if (!object.isNumber() || object.isBounded() || told.contains(object.name) ||
+                !script.outline.globals().contains(object.ruleFunction))
+                continue;
+            told.insert(object.name);
+            result.append(note(script.file, 0,
+                               QStringLiteral("%1 has no bounds, so the ends of its range were not tried")
+                                   .arg(object.name)));
+        }
+    }
+    return result;
+}
+
 QVector<RuleObservation> examine(const RuleScript& script, const QVector<RuleScope>& scopes, RuleCheck* check)
 {
     const bool isGuessed = scopes.isEmpty();
@@ -144,6 +163,8 @@ QVector<RuleObservation> examine(const RuleScript& script, const QVector<RuleSco
             QStringLiteral(
                 "only the script itself tells what its objects are; their names, bounds, keys and 64-bit "
                 "numbers are tried with a plug-in or a list of objects")));
+    else
+        check->notes += boundless(script, known);
     check->notes += unreached(script, probe.lines());
     check->rules = countRules(script.outline, known);
     check->runs = probe.runCount();

@@ -35,11 +35,6 @@ int kindOf(const QString& word)
     return -1;
 }
 
-bool isNumeric(RuleObject::Kind kind)
-{
-    return kind == RuleObject::FLOAT || kind == RuleObject::INT || kind == RuleObject::INT64;
-}
-
 bool readItems(const QStringList& words, RuleObject* object)
 {
     for (int i = 1; i < words.size(); ++i) {
@@ -75,7 +70,7 @@ bool readNumbers(const QStringList& words, RuleObject* object)
 
 bool readValue(const QStringList& words, RuleObject* object)
 {
-    if (isNumeric(object->kind))
+    if (object->isNumber())
         return readNumbers(words, object);
     if (object->kind == RuleObject::SELECTION)
         return readItems(words, object);
@@ -155,6 +150,11 @@ void RuleObject::setUnbounded()
 {
     min = TYPE_BOUNDS[kind].min;
     max = TYPE_BOUNDS[kind].max;
+}
+
+bool RuleObject::isNumber() const
+{
+    return kind == FLOAT || kind == INT || kind == INT64;
 }
 
 bool RuleObject::isBounded() const

@@ -44,6 +44,7 @@ struct RuleObject
     /// Bounds are as far as the type goes.
     void setUnbounded();
     bool isBounded() const;
+    bool isNumber() const;
 };
 
 /// The objects that one setting registers.

@@ -273,12 +273,25 @@ bool RuleOutline::isGlobalMention(int token) const
 
 RuleOutline::Use RuleOutline::use(int token) const
 {
+    if (at(token + 1).is("=") && isReadBehind(token))
+        return UPDATE;
     if (at(token + 1).is("=") || (at(token + 1).is("in") && at(m_brackets.at(token) - 1).is("for") &&
                                   (at(token - 1).is("(") || at(token - 1).is("var"))))
         return WRITE;
     const bool isUpdate =
         UPDATES.contains(at(token + 1).text) || at(token - 1).is("++") || at(token - 1).is("--");
     return isUpdate ? UPDATE : READ;
+}
+
+// "x = x + 1"
+bool RuleOutline::isReadBehind(int token) const
+{
+    const RuleToken& name = m_tokens.at(token);
+    for (int i = token + 2; i < m_tokens.size() && !at(i).is(";") && !beginsStatement(i); ++i) {
+        if (m_tokens.at(i).text == name.text && m_tokens.at(i).type == RuleToken::NAME && !at(i - 1).is("."))
+            return true;
+    }
+    return false;
 }
 
 bool RuleOutline::isTest(int token) const

@@ -73,6 +73,7 @@ private:
     void readVariables(int token);
     void findStatements();
     bool beginsStatement(int token) const;
+    bool isReadBehind(int token) const;
 
     QVector<RuleToken> m_tokens;
     QVector<int> m_partners;

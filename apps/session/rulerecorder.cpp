@@ -220,6 +220,9 @@ void RuleRecorder::setProperty(QScriptValue& object, const QScriptString& name, 
         return;
     }
     m_own[index].insert(word, value);
+    RuleObject::Kind other = target.kind;
+    if (id == MEMBER_COUNT && target.isGuessed && guessKind(word, &other))
+        return;
     if (id < MEMBER_COUNT)
         found(RuleFinding::NOT_WRITABLE, index, id,
               QStringLiteral("%1.%2 is a method").arg(target.name, word));

@@ -263,14 +263,17 @@ RuleScope guessedScope(const RuleOutline& outline)
 {
     RuleScope scope;
     const QVector<RuleToken>& tokens = outline.tokens();
-    for (int i = 0; i + 2 < tokens.size(); ++i) {
+    for (int i = 0; i < tokens.size(); ++i) {
         RuleObject object;
         object.name = tokens.at(i).text;
-        if (!outline.isGlobalMention(i) || outline.globals().contains(object.name) ||
-            isRuleBuiltin(object.name) || isForeignBuiltin(object.name) || scope.find(object.name) ||
-            !tokens.at(i + 1).is(".") || !RuleRecorder::guessKind(tokens.at(i + 2).text, &object.kind))
-            continue;
         object.ruleFunction = object.name + QLatin1String(RULE_SUFFIX);
+        if (!outline.isGlobalMention(i) || outline.globals().contains(object.name) ||
+            isRuleBuiltin(object.name) || isForeignBuiltin(object.name) || scope.find(object.name))
+            continue;
+        const bool hasMember = i + 2 < tokens.size() && tokens.at(i + 1).is(".") &&
+                               RuleRecorder::guessKind(tokens.at(i + 2).text, &object.kind);
+        if (!hasMember && !outline.globals().contains(object.ruleFunction))
+            continue;
         object.isGuessed = true;
         object.setUnbounded();
         scope.objects.append(object);

@@ -11,6 +11,7 @@
 #include <session/rulefindings.h>
 #include <session/rulerecorder.h>
 #include <session/savefile.h>
+#include <support/testmain.h>
 
 using Session::Finding;
 using Session::RuleCheck;
@@ -86,6 +87,13 @@ private slots:
     void correctScripts();
     void wrongScripts_data();
     void wrongScripts();
+    void scriptsAloneTellOfTheirObjects_data() { correctScripts_data(); }
+    void scriptsAloneTellOfTheirObjects();
+    void scriptsThatEndAnywhere();
+    void whatWasNotTriedIsSaid_data();
+    void whatWasNotTriedIsSaid();
+    void listsOfObjects_data();
+    void listsOfObjects();
     void everyFindingHasAScript();
     void recordersAreLikeTheObjects_data();
     void recordersAreLikeTheObjects();
@@ -130,6 +138,102 @@ void TstRuleCheck::wrongScripts()
     const RuleCheck check = Session::checkRules(path, objectsFor(path));
     findings.sort();
     QVERIFY2(codesOf(check) == findings, qPrintable(linesOf(check.findings).join('\n')));
+}
+
+void TstRuleCheck::scriptsAloneTellOfTheirObjects()
+{
+    QFETCH(QString, script);
+    const RuleCheck check = Session::checkRules(RULES + QString("correct/") + script, {});
+    QCOMPARE(linesOf(check.findings), QStringList());
+    QVERIFY(check.notes.constFirst().text.startsWith("only the script itself tells"));
+}
+
+// Each finding lies in the file and says something, wherever a script is cut off.
+void TstRuleCheck::scriptsThatEndAnywhere()
+{
+    const int STRIDE = 11;
+    QTemporaryDir folder;
+    const QString path = folder.filePath("cut.js");
+    for (const QString& script : scriptsOf("correct")) {
+        const QByteArray whole = textOf(RULES + QString("correct/") + script).toUtf8();
+        for (int size = 0; size < whole.size(); size += STRIDE) {
+            const QByteArray cut = whole.left(size);
+            QVERIFY(Session::saveFile(path, cut, nullptr));
+            for (const Finding& finding : Session::checkRules(path, {}).findings) {
+                QVERIFY2(finding.line >= 0 && finding.line <= cut.count('\n') + 1, cut.constData());
+                QVERIFY2(!finding.text.isEmpty() && !finding.advice.isEmpty(), cut.constData());
+            }
+        }
+    }
+}
+
+void TstRuleCheck::whatWasNotTriedIsSaid_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("notes");
+    QTest::newRow("everything tried") << "function Gain_changed() {\n    Level.floatValue = 1;\n}\n"
+                                      << QStringList();
+    QTest::newRow("lines") << "function Gain_changed() {\n    if (Gain.floatValue > 1000) {\n        "
+                              "Level.floatValue = 1;\n        Level.floatValue = 2;\n    }\n}\n"
+                           << QStringList{"3: no run came to lines 3 to 4"};
+    QTest::newRow("function") << "function spare() {\n    return 1;\n}\nfunction Gain_changed() {\n    "
+                                 "Level.floatValue = 1;\n}\n"
+                              << QStringList{"2: no run came to line 2"};
+    QTest::newRow("bounds") << "function Counter_changed() {\n    Level.floatValue = 1;\n}\n"
+                            << QStringList{
+                                   "0: Counter has no bounds, so the ends of its range were not tried"};
+    // The second value that a rule looks at is varied, too.
+    QTest::newRow("condition on another value")
+        << "function Gain_changed() {\n    if (Squelch.boolValue)\n        Level.floatValue = 1;\n}\n"
+        << QStringList();
+}
+
+void TstRuleCheck::whatWasNotTriedIsSaid()
+{
+    QFETCH(QString, text);
+    QTemporaryDir folder;
+    const QString path = folder.filePath("rules.js");
+    QVERIFY(Session::saveFile(path, text.toUtf8(), nullptr));
+    const RuleCheck check = Session::checkRules(path, objectsFor(path));
+    QCOMPARE(linesOf(check.findings), QStringList());
+    QStringList notes;
+    for (const Finding& note : check.notes) {
+        QCOMPARE(note.severity, Finding::NOTE);
+        notes.append(QString("%1: %2").arg(QString::number(note.line), note.text));
+    }
+    QTEST(notes, "notes");
+}
+
+void TstRuleCheck::listsOfObjects_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("empty") << "# nothing\n\n" << QString();
+    QTest::newRow("item with a value") << "selection A x \"x y\"=1:2.5 x=2\n" << QString();
+    QTest::newRow("kind") << "real Gain 1\n"
+                          << "line 1 is no object: real Gain 1";
+    QTest::newRow("name") << "\nfloat\n"
+                          << "line 2 is no object: float";
+    QTest::newRow("one bound") << "int Gain 1 0\n"
+                               << "line 1 is no object: int Gain 1 0";
+    QTest::newRow("number") << "int Gain loud\n"
+                            << "line 1 is no object: int Gain loud";
+    QTest::newRow("outside") << "int Gain 11 0 10\n"
+                             << "line 1 is no object: int Gain 11 0 10";
+    QTest::newRow("item without a key") << "selection A x x=one\n"
+                                        << "line 1 is no object: selection A x x=one";
+    QTest::newRow("two texts") << "string A b c\n"
+                               << "line 1 is no object: string A b c";
+}
+
+void TstRuleCheck::listsOfObjects()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, error);
+    RuleScope scope;
+    QString told;
+    QCOMPARE(Session::readRuleObjects(text, &scope, &told), error.isEmpty());
+    QCOMPARE(told, error);
 }
 
 void TstRuleCheck::everyFindingHasAScript()
@@ -190,5 +294,5 @@ void TstRuleCheck::theGuideHasTheTable()
         "put what \"jedtool rules findings --markdown\" prints into the guide");
 }
 
-QTEST_GUILESS_MAIN(TstRuleCheck)
+JED_TEST_MAIN(TstRuleCheck)
 #include "tst_rulecheck.moc"
