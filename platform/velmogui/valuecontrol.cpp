@@ -2,6 +2,7 @@
 #include <velmogui/valuecontrol.h>
 
 #include <cmath>
+#include <jobxml/quantity.h>
 #include <jobxml/valuetext.h>
 #include <QCheckBox>
 #include <QComboBox>
@@ -33,7 +34,9 @@ int decimalsOf(double step)
 QString itemText(const SelectionItem& item, const REPORTGENERATOR::Field* field)
 {
     const int number = field && field->enumeration ? field->enumeration->number(item.GetName()) : -1;
-    return number < 0 ? item.GetName() : field->enumeration->guiText(number);
+    if (number >= 0)
+        return field->enumeration->guiText(number);
+    return field ? JobXml::readableQuantity(item.GetName(), field->unit()) : item.GetName();
 }
 
 // A wheel over a form that is being scrolled must not change what it passes.

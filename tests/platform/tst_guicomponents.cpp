@@ -133,6 +133,7 @@ private slots:
 
     void componentIsLoaded_data() { components(); }
     void componentIsLoaded();
+    void numbersToChooseFromHaveTheirUnit();
     void eachSetHasAComponent();
     void eachSetIsShown_data() { sets(); }
     void eachSetIsShown();
@@ -215,6 +216,22 @@ void TstGuiComponents::componentIsLoaded()
     QVERIFY(component->GetIcon());
     QVERIFY(!component->GetIcon()->isNull());
     QVERIFY(CfgCenter::Instance()->DestroyDllInstanceByPointer(component));
+}
+
+void TstGuiComponents::numbersToChooseFromHaveTheirUnit()
+{
+    Node node;
+    node.SetName("ScanSettings");
+    auto* const steps = new ValueSelection;
+    steps->SetName("Range.StepWidth");
+    steps->AddItem("12500", 12500, 1);
+    steps->AddItem("automatic", 0, 2);
+    node.AddChild(steps, QString());
+    const ParameterSetEditor editor("ScanSettings", &node);
+    const auto* const box = qobject_cast<QComboBox*>(editor.control("Range.StepWidth")->widget());
+    QVERIFY(box);
+    QCOMPARE(box->itemText(0), QString("12.5 kHz"));
+    QCOMPARE(box->itemText(1), QString("automatic"));
 }
 
 void TstGuiComponents::eachSetHasAComponent()
