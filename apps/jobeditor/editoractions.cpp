@@ -2,16 +2,17 @@
 
 #include "editorwindow.h"
 
+#include "aboutdialog.h"
 #include "applydialog.h"
 #include "editorpane.h"
 #include "importdialog.h"
 #include "mapcontrol.h"
+#include "pagewindow.h"
 #include "pluginpage.h"
 #include "treepane.h"
 
 #include <isubsetting.h>
 #include <jedsubsettingfactory.h>
-#include <jedvepb_version.h>
 #include <jobxml/job.h>
 #include <QAction>
 #include <QApplication>
@@ -28,7 +29,9 @@
 #include <session/applysettings.h>
 #include <session/installation.h>
 #include <session/jobsession.h>
+#include <session/jobsummary.h>
 #include <session/listpreview.h>
+#include <session/savefile.h>
 
 using JEDVEPLUGIN::ISubSetting;
 using JEDVEPLUGIN::JEDSubSettingFactory;
@@ -56,6 +59,15 @@ void EditorWindow::buildFileMenu()
     m_jobActions << m_readOnly << menu->addAction(tr("&Save"), this, &EditorWindow::save, QKeySequence::Save)
                  << menu->addAction(tr("Save &as..."), this, &EditorWindow::saveAs, QKeySequence::SaveAs)
                  << menu->addAction(tr("Re&vert"), this, &EditorWindow::revert);
+    menu->addSeparator();
+    m_jobActions << menu->addAction(
+                        tr("Su&mmary..."), this,
+                        [this] {
+                            PageWindow(tr("Summary of the job"), summary(), tr("summary"), this).exec();
+                        })
+                 << menu->addAction(
+                        tr("&Print..."), this, [this] { PageWindow::print(summary(), this); },
+                        QKeySequence::Print);
     menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
 }
@@ -328,24 +340,40 @@ void EditorWindow::buildHelpMenu()
     menu->addAction(QWhatsThis::createAction(this));
     menu->addSeparator();
     menu->addAction(tr("&Plug-ins..."), this, [this] { PluginPage(*m_host, this).exec(); });
-    menu->addAction(tr("&About..."), this, [this] {
-        QMessageBox::about(this, tr("About the job editor"),
-                           tr("Job editor %1\nPlug-in interface %2\nInstallation: %3")
-                               .arg(QCoreApplication::applicationVersion(),
-                                    QString::number(JEDVEPLUGIN::interfaceVersion()),
-                                    QDir::toNativeSeparators(Session::installationFolder())));
-    });
+    menu->addAction(tr("&About..."), this, [this] { AboutDialog(*m_host, this).exec(); });
 }
 
 void EditorWindow::fillManualMenu(QMenu* menu)
 {
     menu->clear();
+    menu->setToolTipsVisible(true);
     for (JEDSubSettingFactory* factory : m_session->factories()) {
         const QString manual = factory->manual();
-        QAction* const action = menu->addAction(
-            factory->getName(), this, [manual] { QDesktopServices::openUrl(QUrl::fromLocalFile(manual)); });
+        QAction* const action =
+            menu->addAction(factory->getName(), this, [this, manual] { showManual(manual); });
         action->setEnabled(QFileInfo(manual).isFile());
+        action->setToolTip(action->isEnabled() ? factory->description()
+                           : manual.isEmpty()  ? tr("The plug-in has no manual")
+                                               : tr("%1 is not in the installation").arg(manual));
     }
     if (menu->isEmpty())
         menu->addAction(tr("There are no plug-ins"))->setEnabled(false);
+}
+
+// Pages are shown here, other kinds of files by the program that is made for them.
+void EditorWindow::showManual(const QString& file)
+{
+    QByteArray bytes;
+    QString reason;
+    if (!file.endsWith(QLatin1String(".html")))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+    else if (Session::readFile(file, &bytes, &reason))
+        PageWindow(tr("Manual"), QString::fromUtf8(bytes), QFileInfo(file).completeBaseName(), this).exec();
+    else
+        QMessageBox::warning(this, tr("Manual"), tr("%1 cannot be read: %2").arg(file, reason));
+}
+
+QString EditorWindow::summary() const
+{
+    return Session::jobSummary(*m_session, JEDVEPLUGIN::ResourceDescription::readAllResourceFiles());
 }

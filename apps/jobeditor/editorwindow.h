@@ -63,6 +63,8 @@ private:
                     JEDVEPLUGIN::ISubSetting* parent);
     void fillRecentMenu(QMenu* menu);
     void fillManualMenu(QMenu* menu);
+    void showManual(const QString& file);
+    QString summary() const;
 
     bool askToSave();
     void open();

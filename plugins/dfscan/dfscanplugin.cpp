@@ -74,6 +74,7 @@ PluginKit::PluginDeclaration declaration()
         QStringList{"DirectionFinder", "TRV9KScanSettings", "MeasurementReceiver", "SignalRecorder"};
     plugin.types = settingTypes();
     plugin.regions = {{"DF_Settings", "Region"}};
+    plugin.manual = "dfscan.html";
     return plugin;
 }
 

@@ -71,6 +71,7 @@ PluginKit::PluginDeclaration declaration()
     plugin.jobTypes = {JEDVE::JOB_TYPE_PRODUCTION};
     plugin.resourceTypes = QStringList{"HT720"};
     plugin.types = settingTypes();
+    plugin.manual = "production.html";
     plugin.hasDetector = true;
     return plugin;
 }

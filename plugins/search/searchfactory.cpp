@@ -52,6 +52,7 @@ PluginKit::PluginDeclaration searchDeclaration()
     plugin.jobTypes = {JEDVE::JOB_TYPE_SEARCH, JEDVE::JOB_TYPE_SURVEILLANCE};
     plugin.resourceTypes = QStringList{"HT720", "TRV9KScanSettings", "DirectionFinder"};
     plugin.ruleFile = "search.js";
+    plugin.manual = "search.html";
     plugin.types = settingTypes();
     plugin.regions = {{"DF_Settings", "Region"}};
     plugin.hasDetector = true;

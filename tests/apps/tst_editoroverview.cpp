@@ -1,12 +1,21 @@
+#include <support/accessiblenames.h>
 #include <support/testmain.h>
 
+#include <functional>
 #include <isubsetting.h>
-#include <jedsubsettingfactory.h>
+#include <jedabstractsubsettingfactory.h>
+#include <jobeditor/aboutdialog.h>
 #include <jobeditor/editorwindow.h>
+#include <jobeditor/pagewindow.h>
+#include <QDockWidget>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QTabWidget>
+#include <QTextBrowser>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <session/fieldplaces.h>
@@ -47,8 +56,16 @@ private slots:
     void receiversAreCounted();
     void tooManyReceiversAreAProblem();
     void receiversLeadToTheirSubjob();
+    void frequenciesLeadToTheField();
+    void summaryIsShown();
+    void pagesAreSaved();
+    void everyPluginHasAManual();
+    void aboutTellsVersionsAndPlaces();
 
 private:
+    QAction* action(const QString& text);
+    // What to do with the next window that waits for an answer.
+    void whenAsked(const std::function<void(QWidget*)>& look);
     bool open(const QString& path);
     QTreeWidget* list(const QString& name) { return m_window->findChild<QTreeWidget*>(name); }
     QStringList rows(const QString& name);
@@ -243,6 +260,123 @@ void TstEditorOverview::receiversLeadToTheirSubjob()
     receivers->setCurrentItem(receivers->findItems("Measurement receiver", Qt::MatchExactly).value(0));
     QTest::keyClick(receivers, Qt::Key_Return);
     QCOMPARE(currentRow(), QString("ISM 433 MHz"));
+}
+
+QAction* TstEditorOverview::action(const QString& text)
+{
+    for (QAction* action : m_window->menuBar()->findChildren<QAction*>()) {
+        if (action->text().remove('&') == text)
+            return action;
+    }
+    return nullptr;
+}
+
+void TstEditorOverview::whenAsked(const std::function<void(QWidget*)>& look)
+{
+    auto* const timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, [timer, look] {
+        QWidget* const window = QApplication::activeModalWidget();
+        if (!window)
+            return;
+        timer->deleteLater();
+        look(window);
+        window->close();
+    });
+    timer->start(10);
+}
+
+void TstEditorOverview::frequenciesLeadToTheField()
+{
+    QVERIFY(open(EXAMPLES + "search.xml"));
+    m_window->setCurrentSetting(m_session->settingAt({1}));
+    auto* const dock = m_window->findChild<QDockWidget*>("frequenciesDock");
+    dock->raise();
+    auto* const strip = m_window->findChild<QListView*>("frequencies");
+    QTRY_VERIFY(strip->model()->rowCount() > 0);
+    strip->setCurrentIndex(strip->model()->index(0, 0));
+    strip->setFocus();
+    QTest::keyClick(strip, Qt::Key_Return);
+    QCOMPARE(currentRow(), QString("Scan"));
+    QCOMPARE(QApplication::focusWidget()->objectName(), QString("ScanSettings/Range.StartFrequency"));
+}
+
+void TstEditorOverview::summaryIsShown()
+{
+    QVERIFY(!action("Summary...")->isEnabled());
+    QVERIFY(open(EXAMPLES + "search.xml"));
+    QVERIFY(action("Print...")->isEnabled());
+    QVERIFY(m_session->rename(m_session->settingAt({0}), "Renamed & <unsaved>"));
+    QString shown;
+    QStringList nameless;
+    whenAsked([&shown, &nameless](QWidget* window) {
+        shown = window->findChild<QTextBrowser*>()->toPlainText();
+        nameless = JedTest::namelessControls(window);
+        if (qEnvironmentVariableIsSet("JED_PICTURES"))
+            window->grab().save(qEnvironmentVariable("JED_PICTURES") + "/summary.png");
+    });
+    action("Summary...")->trigger();
+    QVERIFY2(shown.contains("1. Renamed & <unsaved>"), qPrintable(shown));
+    QVERIFY(shown.contains("about 50.1 s"));
+    QCOMPARE(nameless, QStringList());
+}
+
+void TstEditorOverview::pagesAreSaved()
+{
+    const QString page = "<html><body><h1>Title</h1><p>Text \u00fc</p></body></html>";
+    const PageWindow window("Title", page, "page");
+    QString reason;
+    QByteArray bytes;
+    QVERIFY2(window.save(m_folder.filePath("page.html"), &reason), qPrintable(reason));
+    QVERIFY(Session::readFile(m_folder.filePath("page.html"), &bytes, nullptr));
+    QCOMPARE(QString::fromUtf8(bytes), page);
+    QVERIFY2(window.save(m_folder.filePath("page.PDF"), &reason), qPrintable(reason));
+    QVERIFY(Session::readFile(m_folder.filePath("page.PDF"), &bytes, nullptr));
+    QVERIFY(bytes.startsWith("%PDF-") && bytes.contains("%%EOF"));
+    QVERIFY(!window.save(m_folder.filePath("nowhere/page.html"), &reason));
+    QVERIFY(!reason.isEmpty());
+}
+
+void TstEditorOverview::everyPluginHasAManual()
+{
+    QMenu* const manuals = action("Manuals")->menu();
+    emit manuals->aboutToShow();
+    QCOMPARE(manuals->actions().size(), m_session->factories().size());
+    QStringList shown;
+    for (QAction* manual : manuals->actions()) {
+        QVERIFY2(manual->text() == "Minimal" || manual->isEnabled(), qPrintable(manual->text()));
+        QVERIFY(!manual->toolTip().isEmpty());
+        if (!manual->isEnabled())
+            continue;
+        whenAsked([&shown](QWidget* window) {
+            shown.append(window->findChild<QTextBrowser*>()->toPlainText().section('\n', 0, 0));
+        });
+        manual->trigger();
+    }
+    shown.sort();
+    QCOMPARE(shown,
+             (QStringList{"Direction-finding and measurement jobs", "Production jobs", "Search jobs"}));
+}
+
+void TstEditorOverview::aboutTellsVersionsAndPlaces()
+{
+    QString text;
+    whenAsked([&text](QWidget* window) {
+        text = static_cast<AboutDialog*>(window)->toText();
+        if (qEnvironmentVariableIsSet("JED_PICTURES"))
+            window->grab().save(qEnvironmentVariable("JED_PICTURES") + "/about.png");
+    });
+    action("About...")->trigger();
+    QVERIFY2(text.contains(QString("Qt %1 /").arg(qVersion())), qPrintable(text));
+    QVERIFY(QRegularExpression("Library, interface 1 /\\S*libJobEditorVEPluginBase\\S*\n")
+                .match(text)
+                .hasMatch());
+    for (const PluginHost::Plugin& plugin : m_host.plugins()) {
+        if (plugin.factory)
+            QVERIFY2(text.contains(
+                         QString("Plug-in %1 1 %2\n").arg(plugin.factory->getName(), plugin.report.path)),
+                     qPrintable(text));
+    }
+    QVERIFY(text.contains("Installation " JED_SOURCE_DIR "/installation\n"));
 }
 
 JED_TEST_MAIN(TstEditorOverview)
