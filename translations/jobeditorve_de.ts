@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About the job editor</source>
+        <translation>Über den Auftragseditor</translation>
+    </message>
+    <message>
+        <source>Versions and places</source>
+        <translation>Versionen und Orte</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Loaded from</source>
+        <translation>Geladen aus</translation>
+    </message>
+    <message>
+        <source>Job editor</source>
+        <translation>Auftragseditor</translation>
+    </message>
+    <message>
+        <source>Library, interface</source>
+        <translation>Bibliothek, Schnittstelle</translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <translation>Qt</translation>
+    </message>
+    <message>
+        <source>Plug-in %1</source>
+        <translation>Plug-in %1</translation>
+    </message>
+    <message>
+        <source>Installation</source>
+        <translation>Anlage</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Composes jobs for radio monitoring out of the settings of plug-ins.</source>
+        <translation>Stellt Aufträge für die Funküberwachung aus den Einstellungen von Plug-ins zusammen.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as text</source>
+        <translation>Als Text &amp;kopieren</translation>
+    </message>
+</context>
+<context>
     <name>ApplyDialog</name>
     <message>
         <source>%1 / %2</source>
@@ -249,18 +304,6 @@
         <translation>&amp;Über...</translation>
     </message>
     <message>
-        <source>About the job editor</source>
-        <translation>Über den Auftragseditor</translation>
-    </message>
-    <message>
-        <source>Job editor %1
-Plug-in interface %2
-Installation: %3</source>
-        <translation>Auftragseditor %1
-Plug-in-Schnittstelle %2
-Anlage: %3</translation>
-    </message>
-    <message>
         <source>There are no plug-ins</source>
         <translation>Es gibt keine Plug-ins</translation>
     </message>
@@ -391,6 +434,38 @@ Anlage: %3</translation>
     <message>
         <source>Choose the sub-job that is to have the frequencies of a list. It must have a tuner.</source>
         <translation>Wählen Sie den Teilauftrag, der die Frequenzen einer Liste erhalten soll. Er muss einen Tuner haben.</translation>
+    </message>
+    <message>
+        <source>Su&amp;mmary...</source>
+        <translation>Zusa&amp;mmenfassung...</translation>
+    </message>
+    <message>
+        <source>Summary of the job</source>
+        <translation>Zusammenfassung des Auftrags</translation>
+    </message>
+    <message>
+        <source>summary</source>
+        <translation>zusammenfassung</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>The plug-in has no manual</source>
+        <translation>Das Plug-in hat kein Handbuch</translation>
+    </message>
+    <message>
+        <source>%1 is not in the installation</source>
+        <translation>%1 gibt es in der Anlage nicht</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
 </context>
 <context>
@@ -4342,6 +4417,29 @@ Anlage: %3</translation>
     <message>
         <source>Object without a name</source>
         <translation>Objekt ohne Namen</translation>
+    </message>
+</context>
+<context>
+    <name>PageWindow</name>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>&amp;Save as...</source>
+        <translation>&amp;Speichern unter...</translation>
+    </message>
+    <message>
+        <source>Save the page</source>
+        <translation>Seite speichern</translation>
+    </message>
+    <message>
+        <source>Web pages (*.html);;PDF files (*.pdf)</source>
+        <translation>Webseiten (*.html);;PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>The page was not saved: %1</source>
+        <translation>Die Seite wurde nicht gespeichert: %1</translation>
     </message>
 </context>
 <context>

@@ -162,7 +162,8 @@ void TstPluginFrame::aFreshFactory()
     QCOMPARE(loaded->getMaxCount("unknown"), std::numeric_limits<int>::max());
     QVERIFY(loaded->supportsImportProfile());
     QVERIFY(!loaded->canImportProfile(nullptr));
-    QCOMPARE(loaded->manual(), QString());
+    QCOMPARE(loaded->manual().isEmpty(), plugin == "minimal");
+    QCOMPARE(QFileInfo(loaded->manual()).isFile(), plugin != "minimal");
 }
 
 void TstPluginFrame::subJobsComeFromTheDialog()
