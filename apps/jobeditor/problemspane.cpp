@@ -4,17 +4,16 @@
 #include <jobxml/settings.h>
 #include <QHeaderView>
 #include <QStyle>
-#include <QTimer>
 #include <reportlayer/fieldaccess.h>
 #include <resourcedescription.h>
 #include <session/jobproblems.h>
 #include <session/jobsession.h>
-#include <utility>
 
 using JEDVEPLUGIN::ISubSetting;
 using JEDVEPLUGIN::Problem;
 using Session::JobProblem;
 using Session::JobSession;
+using Session::PacedRefresh;
 
 namespace {
 enum Column { COLUMN_TEXT, COLUMN_SETTING, COLUMN_FIELD };
@@ -33,6 +32,16 @@ QStyle::StandardPixmap pictureOf(Problem::Severity severity)
     return QStyle::SP_MessageBoxCritical;
 }
 
+bool isSame(const JobProblem& left, const JobProblem& right)
+{
+    const auto parts = [](const JobProblem& found) {
+        const Problem& problem = found.problem;
+        return std::tie(found.subjob, found.setting, found.place, problem.severity, problem.parameterSet,
+                        problem.field, problem.text);
+    };
+    return parts(left) == parts(right);
+}
+
 // The field by its label where the schema has one.
 QString fieldText(const QString& parameterSet, const QString& path)
 {
@@ -44,7 +53,8 @@ QString fieldText(const QString& parameterSet, const QString& path)
 
 ProblemsPane::ProblemsPane(JobSession* session, QWidget* parent)
     : QTreeWidget(parent)
-    , m_session(session)
+    , m_finder(session)
+    , m_refresh([this] { refresh(); }, this)
 {
     setObjectName(QStringLiteral("problems"));
     setAccessibleName(tr("Problems of the job"));
@@ -53,23 +63,20 @@ ProblemsPane::ProblemsPane(JobSession* session, QWidget* parent)
     header()->setSectionResizeMode(COLUMN_TEXT, QHeaderView::Stretch);
     header()->setStretchLastSection(false);
     connect(this, &QTreeWidget::itemActivated, this, &ProblemsPane::choose);
-    connect(session, &JobSession::jobReplaced, this, &ProblemsPane::refreshSoon);
-    connect(session, &JobSession::structureChanged, this, &ProblemsPane::refreshSoon);
-    connect(session, &JobSession::settingChanged, this, &ProblemsPane::refreshSoon);
-}
-
-void ProblemsPane::refreshSoon()
-{
-    if (!std::exchange(m_isRefreshPending, true))
-        QTimer::singleShot(0, this, &ProblemsPane::refresh);
+    connect(session, &JobSession::jobReplaced, &m_refresh, &PacedRefresh::requestAtOnce);
+    connect(session, &JobSession::structureChanged, &m_refresh, &PacedRefresh::requestAtOnce);
+    connect(session, &JobSession::settingChanged, &m_refresh, &PacedRefresh::request);
 }
 
 void ProblemsPane::refresh()
 {
-    m_isRefreshPending = false;
+    const QList<JobProblem> problems =
+        m_finder.problems(JEDVEPLUGIN::ResourceDescription::readAllResourceFiles());
+    if (std::equal(problems.cbegin(), problems.cend(), m_shown.cbegin(), m_shown.cend(), isSame))
+        return;
+    m_shown = problems;
     clear();
-    for (const JobProblem& found :
-         Session::jobProblems(*m_session, JEDVEPLUGIN::ResourceDescription::readAllResourceFiles())) {
+    for (const JobProblem& found : problems) {
         const Problem& problem = found.problem;
         auto* const item = new QTreeWidgetItem(
             this, {problem.text, found.place, fieldText(problem.parameterSet, problem.field)});

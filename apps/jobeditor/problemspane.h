@@ -1,13 +1,8 @@
 #pragma once
 
 #include <QTreeWidget>
-
-namespace JEDVEPLUGIN {
-class ISubSetting;
-}
-namespace Session {
-class JobSession;
-}
+#include <session/jobproblems.h>
+#include <session/pacedrefresh.h>
 
 /// What is wrong with the job, one row a problem. Return or a double click leads to the field.
 class ProblemsPane : public QTreeWidget
@@ -25,10 +20,10 @@ signals:
     void countChanged(int count);
 
 private:
-    void refreshSoon();
     void refresh();
     void choose(QTreeWidgetItem* item);
 
-    Session::JobSession* m_session; // Not owned.
-    bool m_isRefreshPending = false;
+    Session::ProblemFinder m_finder;
+    QList<Session::JobProblem> m_shown;
+    Session::PacedRefresh m_refresh;
 };

@@ -4,13 +4,12 @@
 #include <isubsetting.h>
 #include <QHeaderView>
 #include <QStyle>
-#include <QTimer>
 #include <resourcedescription.h>
 #include <session/jobsession.h>
 #include <session/receiveruse.h>
-#include <utility>
 
 using Session::JobSession;
+using Session::PacedRefresh;
 using Session::ReceiverUse;
 
 namespace {
@@ -44,6 +43,7 @@ QStringList namesOf(const QVector<int>& subjobs, const JobSession& session)
 ResourcePane::ResourcePane(JobSession* session, QWidget* parent)
     : QTreeWidget(parent)
     , m_session(session)
+    , m_refresh([this] { refresh(); }, this)
 {
     setObjectName(QStringLiteral("resources"));
     setAccessibleName(tr("Receivers that the job takes"));
@@ -51,20 +51,13 @@ ResourcePane::ResourcePane(JobSession* session, QWidget* parent)
     setHeaderLabels({tr("Receiver"), tr("Type"), tr("Taken"), tr("Left"), tr("Sub-jobs")});
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(this, &QTreeWidget::itemActivated, this, &ResourcePane::choose);
-    connect(session, &JobSession::jobReplaced, this, &ResourcePane::refreshSoon);
-    connect(session, &JobSession::structureChanged, this, &ResourcePane::refreshSoon);
-    connect(session, &JobSession::settingChanged, this, &ResourcePane::refreshSoon);
-}
-
-void ResourcePane::refreshSoon()
-{
-    if (!std::exchange(m_isRefreshPending, true))
-        QTimer::singleShot(0, this, &ResourcePane::refresh);
+    connect(session, &JobSession::jobReplaced, &m_refresh, &PacedRefresh::requestAtOnce);
+    connect(session, &JobSession::structureChanged, &m_refresh, &PacedRefresh::requestAtOnce);
+    connect(session, &JobSession::settingChanged, &m_refresh, &PacedRefresh::request);
 }
 
 void ResourcePane::refresh()
 {
-    m_isRefreshPending = false;
     clear();
     QVector<ReceiverUse> uses =
         Session::receiverUses(*m_session, JEDVEPLUGIN::ResourceDescription::readAllResourceFiles());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTreeWidget>
+#include <session/pacedrefresh.h>
 
 namespace Session {
 class JobSession;
@@ -19,10 +20,9 @@ signals:
     void subjobChosen(int subjob);
 
 private:
-    void refreshSoon();
     void refresh();
     void choose(QTreeWidgetItem* item);
 
     Session::JobSession* m_session; // Not owned.
-    bool m_isRefreshPending = false;
+    Session::PacedRefresh m_refresh;
 };

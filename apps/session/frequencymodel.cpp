@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <isubsetting.h>
-#include <QTimer>
 #include <utility>
 
 namespace {
@@ -25,6 +24,7 @@ FrequencyModel::FrequencyModel(JobSession* session, const JobComposer::Resources
     : QAbstractListModel(parent)
     , m_session(session)
     , m_resources(resources)
+    , m_refresh([this] { refresh(); }, this)
 {
     connect(session, &JobSession::jobReplaced, this, &FrequencyModel::changeAll);
     connect(session, &JobSession::structureChanged, this, &FrequencyModel::changeAll);
@@ -78,13 +78,14 @@ void FrequencyModel::changeAll()
 void FrequencyModel::refreshSoon()
 {
     const bool isDue = m_isWatched && (m_isAllChanged || !m_changed.isEmpty());
-    if (isDue && !std::exchange(m_isRefreshPending, true))
-        QTimer::singleShot(0, this, &FrequencyModel::refresh);
+    if (isDue && m_isAllChanged)
+        m_refresh.requestAtOnce();
+    else if (isDue)
+        m_refresh.request();
 }
 
 void FrequencyModel::refresh()
 {
-    m_isRefreshPending = false;
     const bool isAll = std::exchange(m_isAllChanged, false);
     const QSet<int> changed = std::exchange(m_changed, {});
     QVector<Item> items;
@@ -96,8 +97,10 @@ void FrequencyModel::refresh()
             items += itemsOf(subjob);
             continue;
         }
-        std::copy_if(m_items.cbegin(), m_items.cend(), std::back_inserter(items),
-                     [subjob](const Item& item) { return item.subjob == subjob; });
+        const auto isBefore = [](const Item& item, int number) { return item.subjob < number; };
+        auto known = std::lower_bound(m_items.cbegin(), m_items.cend(), subjob, isBefore);
+        for (; known != m_items.cend() && known->subjob == subjob; ++known)
+            items.append(*known);
     }
     const bool isReset = names.size() != m_names.size() || !isSameShape(items, m_items);
     if (isReset)

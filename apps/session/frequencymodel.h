@@ -2,6 +2,7 @@
 
 #include "frequencyuse.h"
 #include "jobcomposer.h"
+#include "pacedrefresh.h"
 
 #include <QAbstractListModel>
 #include <QSet>
@@ -60,7 +61,7 @@ private:
     QSet<int> m_changed; // Sub-jobs.
     bool m_isAllChanged = true;
     bool m_isWatched = false;
-    bool m_isRefreshPending = false;
+    PacedRefresh m_refresh;
 };
 
 } // namespace Session

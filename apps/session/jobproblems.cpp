@@ -53,17 +53,46 @@ namespace Session {
 
 QList<JobProblem> jobProblems(const JobSession& session, const JobComposer::Resources& resources)
 {
+    return ProblemFinder(&session).problems(resources);
+}
+
+ProblemFinder::ProblemFinder(const JobSession* session, QObject* parent)
+    : QObject(parent)
+    , m_session(session)
+{
+    connect(session, &JobSession::jobLeaving, this, [this] { m_found.clear(); });
+    const auto forget = [this](const ISubSetting* setting) {
+        const int index = m_session->rootIndex(setting);
+        if (index >= 0)
+            m_found.remove(m_session->topLevel(index).number);
+    };
+    connect(session, &JobSession::settingChanged, this, forget);
+    connect(session, &JobSession::settingLeaving, this, forget);
+}
+
+QList<JobProblem> ProblemFinder::problems(const JobComposer::Resources& resources)
+{
+    QHash<int, QList<JobProblem>> found;
     QList<JobProblem> result;
-    for (int i = 0; i < session.topLevelCount(); ++i) {
-        const JobSession::TopLevel& top = session.topLevel(i);
-        if (top.setting)
-            collect(top.setting, i, QString(), &result);
+    for (int i = 0; i < m_session->topLevelCount(); ++i) {
+        const JobSession::TopLevel& top = m_session->topLevel(i);
+        const auto known = m_found.constFind(top.number);
+        QList<JobProblem>& problems = found[top.number];
+        if (known != m_found.constEnd())
+            problems = *known;
+        else if (top.setting)
+            collect(top.setting, i, QString(), &problems);
         else
-            result.append(unclaimed(top, i));
+            problems.append(unclaimed(top, i));
+        for (JobProblem problem : qAsConst(problems)) {
+            problem.subjob = i;
+            result.append(problem);
+        }
     }
-    for (const ReceiverUse& use : receiverUses(session, resources)) {
+    m_found = found;
+    for (const ReceiverUse& use : receiverUses(*m_session, resources)) {
         if (use.isOverused())
-            result.append(overuse(use, session));
+            result.append(overuse(use, *m_session));
     }
     return result;
 }

@@ -3,6 +3,8 @@
 #include "receiveruse.h"
 
 #include <problem.h>
+#include <QHash>
+#include <QObject>
 
 namespace JEDVEPLUGIN {
 class ISubSetting;
@@ -22,6 +24,23 @@ struct JobProblem
 /// What the settings find wrong with themselves, what no plug-in claims, and receivers of which the job takes more than
 /// the installation has; in the order of the job, the receivers at the end.
 QList<JobProblem> jobProblems(const JobSession& session, const JobComposer::Resources& resources);
+
+/// Finds the problems of a job that is being worked on: looks only at sub-jobs that changed since the last time. GUI
+/// thread only.
+class ProblemFinder : public QObject
+{
+    Q_OBJECT
+public:
+    /// \param session  not owned, outlives the finder
+    explicit ProblemFinder(const JobSession* session, QObject* parent = nullptr);
+
+    /// As jobProblems().
+    QList<JobProblem> problems(const JobComposer::Resources& resources);
+
+private:
+    const JobSession* m_session;           // Not owned.
+    QHash<int, QList<JobProblem>> m_found; // By the number of the top-level setting.
+};
 
 /// "note", "warning" or "error".
 QString severityText(JEDVEPLUGIN::Problem::Severity severity);

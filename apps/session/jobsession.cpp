@@ -161,11 +161,16 @@ int JobSession::topLevelIndex(const Setting* setting) const
     return -1;
 }
 
-JobSession::Factory* JobSession::factoryOf(const Setting* setting) const
+int JobSession::rootIndex(const Setting* setting) const
 {
     while (setting && setting->parent())
         setting = setting->parent();
-    const int index = topLevelIndex(setting);
+    return topLevelIndex(setting);
+}
+
+JobSession::Factory* JobSession::factoryOf(const Setting* setting) const
+{
+    const int index = rootIndex(setting);
     return index < 0 ? nullptr : topLevel(index).factory;
 }
 
@@ -484,7 +489,7 @@ JobSession::Setting* JobSession::inserted(Factory* factory, Setting* setting, co
     }
     walk(setting, [this](Setting* node) { remember(node); });
     push(new InsertCommand(this, step, pathOf(setting), factory));
-    tellStructure();
+    tellInserted(setting);
     return setting;
 }
 
@@ -506,8 +511,15 @@ JobSession::Setting* JobSession::insertText(Factory* factory, const SettingConte
         m_topLevel.insert(m_topLevel.begin() + path.first(), newTopLevel(factory, setting, content.subjob));
     }
     walk(setting, [this](Setting* node) { remember(node); });
-    tellStructure();
+    tellInserted(setting);
     return setting;
+}
+
+void JobSession::tellInserted(Setting* setting)
+{
+    tellStructure();
+    if (setting->parent())
+        emit settingChanged(setting->parent());
 }
 
 bool JobSession::removeAt(const SettingPath& path)

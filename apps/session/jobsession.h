@@ -98,6 +98,8 @@ public:
     const TopLevel& topLevel(int index) const { return m_topLevel[size_t(index)]; }
     /// Position among the top-level settings, -1 for a stranger.
     int topLevelIndex(const Setting* setting) const;
+    /// The same of the top-level setting that a setting is below.
+    int rootIndex(const Setting* setting) const;
     /// The factory of a setting of this job, null for a stranger.
     Factory* factoryOf(const Setting* setting) const;
     SettingPath pathOf(Setting* setting) const;
@@ -177,6 +179,7 @@ private:
     void push(QUndoCommand* command);
     void tellStructure();
     SettingContent contentOf(Setting* setting) const;
+    void tellInserted(Setting* setting);
     Setting* inserted(Factory* factory, Setting* setting, const QString& step);
 
     // The changes themselves, without a step; used by the steps.

@@ -35,8 +35,9 @@ public:
         m_uses[row].taken += use.count;
         for (const int whole : chainOf(row)) {
             QVector<int>& takers = m_uses[whole].takers;
-            if (!takers.contains(subjob))
-                takers.insert(std::lower_bound(takers.begin(), takers.end(), subjob), subjob);
+            const auto place = std::lower_bound(takers.begin(), takers.end(), subjob);
+            if (place == takers.end() || *place != subjob)
+                takers.insert(place, subjob);
         }
     }
 
@@ -97,9 +98,12 @@ QString ReceiverUse::toText() const
 QVector<ReceiverUse> receiverUses(const JobSession& session, const JobComposer::Resources& resources)
 {
     Counter counter(resources);
+    QHash<const JobSession::Setting*, int> places;
+    for (int i = 0; i < session.topLevelCount(); ++i)
+        places.insert(session.topLevel(i).setting, i);
     for (const JobSession::Factory* factory : session.activeFactories()) {
         for (const ResourceUse& use : factory->resourceUse())
-            counter.take(use, session.topLevelIndex(use.setting));
+            counter.take(use, places.value(use.setting, -1));
     }
     for (int i = 0; i < session.topLevelCount(); ++i) {
         const JobSession::TopLevel& top = session.topLevel(i);
