@@ -4201,6 +4201,14 @@
         <source>A polygon has three points at least.</source>
         <translation>Ein Polygon hat mindestens drei Punkte.</translation>
     </message>
+    <message>
+        <source>Mouse: a drag shifts the map, the wheel zooms. A click selects, with Ctrl adds; a drag with Shift selects all inside, with Ctrl zooms there. What is selected can be dragged, a rectangle changed at its corners.
+
+Keys: arrows shift the map, + and - zoom, Home shows the world. Tab and Shift+Tab select, Enter shows what is selected, Delete deletes it. Alt+arrows move it, Ctrl+arrows by a pixel, Shift+arrows move the right lower corner of a rectangle.</source>
+        <translation>Maus: Ziehen verschiebt die Karte, das Rad zoomt. Ein Klick wählt aus, mit Strg dazu; Ziehen mit der Umschalttaste wählt alles darin aus, mit Strg zoomt es dorthin. Ausgewähltes lässt sich ziehen, ein Rechteck an seinen Ecken ändern.
+
+Tasten: Pfeile verschieben die Karte, + und - zoomen, Pos1 zeigt die ganze Welt. Tab und Umschalt+Tab wählen aus, die Eingabetaste zeigt das Ausgewählte, Entf löscht es. Alt+Pfeile verschieben es, Strg+Pfeile um ein Pixel, Umschalt+Pfeile die rechte untere Ecke eines Rechtecks.</translation>
+    </message>
 </context>
 <context>
     <name>MapConnection</name>
@@ -4329,10 +4337,6 @@
         <translation>&amp;Karte</translation>
     </message>
     <message>
-        <source>&amp;Save picture...</source>
-        <translation>Bild &amp;speichern...</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
     </message>
@@ -4385,16 +4389,12 @@
         <translation>Programme: %1</translation>
     </message>
     <message>
-        <source>Save picture</source>
-        <translation>Bild speichern</translation>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>Pictures (*.png)</source>
-        <translation>Bilder (*.png)</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 kann nicht geschrieben werden</translation>
+        <source>&amp;Mouse and keys</source>
+        <translation>&amp;Maus und Tasten</translation>
     </message>
 </context>
 <context>

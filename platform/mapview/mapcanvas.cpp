@@ -19,6 +19,13 @@ MapCanvas::MapCanvas(MapScene* scene, QWidget* parent)
 {
     setObjectName(QStringLiteral("MapCanvas"));
     setAccessibleName(tr("Map"));
+    setWhatsThis(tr(
+        "Mouse: a drag shifts the map, the wheel zooms. A click selects, with Ctrl adds; a drag with Shift "
+        "selects all inside, with Ctrl zooms there. What is selected can be dragged, a rectangle changed "
+        "at its corners.\n\n"
+        "Keys: arrows shift the map, + and - zoom, Home shows the world. Tab and Shift+Tab select, Enter "
+        "shows what is selected, Delete deletes it. Alt+arrows move it, Ctrl+arrows by a pixel, "
+        "Shift+arrows move the right lower corner of a rectangle."));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -7,12 +7,11 @@
 
 #include <QApplication>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QStatusBar>
 #include <QStyleFactory>
+#include <QWhatsThis>
 
 MapWindow::MapWindow()
     : m_canvas(new MapCanvas(&m_scene, this))
@@ -63,8 +62,6 @@ void MapWindow::useDarkWindows()
 void MapWindow::buildMenus()
 {
     QMenu* const map = menuBar()->addMenu(tr("&Map"));
-    map->addAction(tr("&Save picture..."), this, &MapWindow::savePicture, QKeySequence::Save);
-    map->addSeparator();
     map->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
 
     QMenu* const edit = menuBar()->addMenu(tr("&Edit"));
@@ -91,6 +88,10 @@ void MapWindow::buildMenus()
     view->addSeparator();
     for (QDockWidget* pane : findChildren<QDockWidget*>())
         view->addAction(pane->toggleViewAction());
+    menuBar()->addMenu(tr("&Help"))->addAction(tr("&Mouse and keys"), this, [this] {
+        QWhatsThis::showText(m_canvas->mapToGlobal(m_canvas->rect().center()), m_canvas->whatsThis(),
+                             m_canvas);
+    });
 }
 
 void MapWindow::buildStatusBar()
@@ -115,14 +116,6 @@ void MapWindow::addPane(QWidget* pane, const QString& title)
     dock->setObjectName(pane->objectName() + QStringLiteral("Dock"));
     dock->setWidget(pane);
     addDockWidget(Qt::RightDockWidgetArea, dock);
-}
-
-void MapWindow::savePicture()
-{
-    const QString file = QFileDialog::getSaveFileName(this, tr("Save picture"), QStringLiteral("map.png"),
-                                                      tr("Pictures (*.png)"));
-    if (!file.isEmpty() && !grab().save(file, "PNG"))
-        QMessageBox::warning(this, windowTitle(), tr("%1 cannot be written").arg(file));
 }
 
 void MapWindow::leaveWithPicture(const QString& file)

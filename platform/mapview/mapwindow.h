@@ -33,7 +33,6 @@ private:
     void buildMenus();
     void buildStatusBar();
     void addPane(QWidget* pane, const QString& title);
-    void savePicture();
     void leaveWithPicture(const QString& file);
 
     MapScene m_scene;

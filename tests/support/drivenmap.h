@@ -143,7 +143,7 @@ private:
 /// What main() of the test calls when it is the map.
 inline int runDrivenMap(int argc, char** argv)
 {
-    QApplication application(argc, argv);
+    const auto application = makeApplication(argc, argv);
     MapWindow window;
     QString error;
     if (!window.listen(QString::fromUtf8(argv[2]), &error))
