@@ -467,6 +467,30 @@
         <source>%1 cannot be read: %2</source>
         <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
+    <message>
+        <source>There is no job yet</source>
+        <translation>Es gibt noch keinen Auftrag</translation>
+    </message>
+    <message>
+        <source>The job is open for looking only</source>
+        <translation>Der Auftrag ist nur zum Ansehen offen</translation>
+    </message>
+    <message>
+        <source>No setting is selected in the tree</source>
+        <translation>Im Baum ist keine Einstellung ausgewählt</translation>
+    </message>
+    <message>
+        <source>There is nothing to be undone</source>
+        <translation>Es gibt nichts rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>There is nothing to be done again</source>
+        <translation>Es gibt nichts zu wiederholen</translation>
+    </message>
+    <message>
+        <source>The setting cannot be changed</source>
+        <translation>Die Einstellung kann nicht geändert werden</translation>
+    </message>
 </context>
 <context>
     <name>FreqStoreXml::FileHandling</name>

@@ -55,7 +55,7 @@ void EditorWindow::buildFileMenu()
     menu->addSeparator();
     m_readOnly = menu->addAction(tr("Read &only"), this, &EditorWindow::setReadOnly);
     m_readOnly->setCheckable(true);
-    m_readOnly->setToolTip(tr("The job can be looked at but not changed"));
+    m_readOnly->setWhatsThis(tr("The job can be looked at but not changed"));
     m_jobActions << m_readOnly << menu->addAction(tr("&Save"), this, &EditorWindow::save, QKeySequence::Save)
                  << menu->addAction(tr("Save &as..."), this, &EditorWindow::saveAs, QKeySequence::SaveAs)
                  << menu->addAction(tr("Re&vert"), this, &EditorWindow::revert);
@@ -346,7 +346,6 @@ void EditorWindow::buildHelpMenu()
 void EditorWindow::fillManualMenu(QMenu* menu)
 {
     menu->clear();
-    menu->setToolTipsVisible(true);
     for (JEDSubSettingFactory* factory : m_session->factories()) {
         const QString manual = factory->manual();
         QAction* const action =

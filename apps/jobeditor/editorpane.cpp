@@ -4,6 +4,7 @@
 
 #include <isubsetting.h>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPixmap>
 #include <QStackedWidget>
@@ -42,7 +43,8 @@ EditorPane::EditorPane(QWidget* parent)
 void EditorPane::show(JEDVEPLUGIN::ISubSetting* setting, const QString& text)
 {
     const QPixmap* const pixmap = setting ? setting->getPixmap() : nullptr;
-    m_icon->setPixmap(pixmap ? pixmap->scaledToHeight(ICON_SIZE, Qt::SmoothTransformation) : QPixmap());
+    // An icon knows how many pixels the screen has for it.
+    m_icon->setPixmap(pixmap ? QIcon(*pixmap).pixmap(ICON_SIZE) : QPixmap());
     m_icon->setVisible(pixmap != nullptr);
     m_title->setText(setting ? setting->getDisplayName() : QString());
     QWidget* const widget = setting ? setting->getWidget() : nullptr;

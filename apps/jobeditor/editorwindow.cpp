@@ -21,6 +21,8 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
+#include <QMenu>
+#include <QMenuBar>
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -35,6 +37,13 @@ using Session::Recovery;
 
 namespace {
 constexpr int DOCK_HEIGHT = 150;
+
+// What cannot be used says why.
+void setUsable(QAction* action, const QString& obstacle)
+{
+    action->setEnabled(obstacle.isEmpty());
+    action->setToolTip(obstacle.isEmpty() ? action->whatsThis() : obstacle);
+}
 } // namespace
 
 EditorWindow::EditorWindow(Session::PluginHost* host, JobSession* session)
@@ -64,6 +73,8 @@ EditorWindow::EditorWindow(Session::PluginHost* host, JobSession* session)
     buildEditMenu();
     buildViewMenu();
     buildHelpMenu();
+    for (QMenu* menu : menuBar()->findChildren<QMenu*>())
+        menu->setToolTipsVisible(true);
 
     connect(m_startPage, &StartPage::newJobWanted, this, &EditorWindow::newJob);
     connect(m_startPage, &StartPage::openWanted, this, &EditorWindow::openFile);
@@ -279,17 +290,24 @@ void EditorWindow::showCurrent()
 void EditorWindow::updateActions()
 {
     ISubSetting* const setting = m_tree->currentSetting();
+    const QString noJob = m_hasJob ? QString() : tr("There is no job yet");
+    const QString locked =
+        m_hasJob && m_session->isReadOnly() ? tr("The job is open for looking only") : noJob;
+    QString noSetting = m_hasJob && !setting ? tr("No setting is selected in the tree") : noJob;
     for (QAction* action : qAsConst(m_jobActions))
-        action->setEnabled(m_hasJob);
-    const bool isChangeable = m_hasJob && !m_session->isReadOnly();
+        setUsable(action, noJob);
     for (QAction* action : qAsConst(m_changeActions))
-        action->setEnabled(isChangeable);
-    m_copy->setEnabled(m_hasJob && setting);
+        setUsable(action, locked);
+    setUsable(m_copy, noSetting);
     m_readOnly->setChecked(m_session->isReadOnly());
-    m_undo->setEnabled(isChangeable && m_session->undoStack()->canUndo());
-    m_redo->setEnabled(isChangeable && m_session->undoStack()->canRedo());
+    const QUndoStack* const steps = m_session->undoStack();
+    setUsable(m_undo, locked.isEmpty() && !steps->canUndo() ? tr("There is nothing to be undone") : locked);
+    setUsable(m_redo,
+              locked.isEmpty() && !steps->canRedo() ? tr("There is nothing to be done again") : locked);
+    if (setting && setting->isReadOnly())
+        noSetting = tr("The setting cannot be changed");
     for (QAction* action : qAsConst(m_settingActions))
-        action->setEnabled(m_hasJob && setting && !setting->isReadOnly());
+        setUsable(action, noSetting);
 }
 
 void EditorWindow::setReadOnly(bool readOnly)

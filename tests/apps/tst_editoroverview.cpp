@@ -5,9 +5,11 @@
 #include <isubsetting.h>
 #include <jedabstractsubsettingfactory.h>
 #include <jobeditor/aboutdialog.h>
+#include <jobeditor/editorpane.h>
 #include <jobeditor/editorwindow.h>
 #include <jobeditor/pagewindow.h>
 #include <QDockWidget>
+#include <QLabel>
 #include <QListView>
 #include <QMenu>
 #include <QMenuBar>
@@ -61,6 +63,8 @@ private slots:
     void pagesAreSaved();
     void everyPluginHasAManual();
     void aboutTellsVersionsAndPlaces();
+    void whatCannotBeUsedSaysWhy();
+    void iconsKeepTheirSizeOnFineScreens();
 
 private:
     QAction* action(const QString& text);
@@ -377,6 +381,52 @@ void TstEditorOverview::aboutTellsVersionsAndPlaces()
                      qPrintable(text));
     }
     QVERIFY(text.contains("Installation " JED_SOURCE_DIR "/installation\n"));
+}
+
+void TstEditorOverview::whatCannotBeUsedSaysWhy()
+{
+    QCOMPARE(action("Save")->toolTip(), QString("There is no job yet"));
+    QCOMPARE(action("Delete")->toolTip(), QString("There is no job yet"));
+    m_window->newJob(JEDVE::JOB_TYPE_SEARCH);
+    QVERIFY(action("Save")->isEnabled());
+    QCOMPARE(action("Save")->toolTip(), QString("Save"));
+    QCOMPARE(action("Delete")->toolTip(), QString("No setting is selected in the tree"));
+    QVERIFY(open(EXAMPLES + "search.xml"));
+    QVERIFY(action("Delete")->isEnabled());
+    for (const QAction* action : m_window->menuBar()->findChildren<QAction*>())
+        QVERIFY2(!action->toolTip().startsWith("There is no job"), qPrintable(action->text()));
+    action("Read only")->trigger();
+    QCOMPARE(action("Delete")->toolTip(), QString("The setting cannot be changed"));
+    QCOMPARE(action("Paste setting")->toolTip(), QString("The job is open for looking only"));
+    for (const QMenu* menu : m_window->menuBar()->findChildren<QMenu*>())
+        QVERIFY2(menu->toolTipsVisible() || menu->title().isEmpty(), qPrintable(menu->title()));
+}
+
+// An icon with two pixels for each of the screen's own stays as large as the others.
+void TstEditorOverview::iconsKeepTheirSizeOnFineScreens()
+{
+    QVERIFY(open(EXAMPLES + "search.xml"));
+    ISubSetting* const setting = m_session->settingAt({0});
+    QPixmap* const icon = setting->getPixmap();
+    QVERIFY(icon && icon->devicePixelRatio() == 1.0);
+    const QPixmap usual = *icon;
+    QPixmap fine(usual.size() * 2);
+    fine.setDevicePixelRatio(2);
+    fine.fill(Qt::red);
+    *icon = fine;
+    EditorPane pane;
+    pane.show(setting, QString());
+    QSize shown;
+    for (const QLabel* label : pane.findChildren<QLabel*>()) {
+        if (label->pixmap(Qt::ReturnByValue).isNull())
+            continue;
+        const QPixmap pixmap = label->pixmap(Qt::ReturnByValue);
+        shown = pixmap.size() / pixmap.devicePixelRatio();
+        break;
+    }
+    *icon = usual;
+    pane.clear();
+    QCOMPARE(shown, QSize(24, 24));
 }
 
 JED_TEST_MAIN(TstEditorOverview)
