@@ -2,6 +2,7 @@
 #include <freqstorexml/frequencystore.h>
 #include <jobprofilefactory.h>
 #include <QElapsedTimer>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <session/frequencyimport.h>
 #include <session/savefile.h>
@@ -96,6 +97,8 @@ private slots:
     void formatsAreGuessed();
     void hostileContent_data();
     void hostileContent();
+    void damagedAtRandom_data() { formats(); }
+    void damagedAtRandom();
     void tooManyEntries();
     void whatIsNoFile();
     void readingIsStopped_data() { formats(); }
@@ -641,6 +644,40 @@ void TstFrequencyImport::hostileContent()
     QVERIFY2(clock.elapsed() < MOST_TIME, qPrintable(QString::number(clock.elapsed())));
     QTEST(import.failure, "failure");
     QCOMPARE(import.takenCount(), 0);
+}
+
+// Bytes exchanged, taken out and doubled: whatever comes of it is told, and what is taken is a valid list.
+void TstFrequencyImport::damagedAtRandom()
+{
+    QFETCH(QString, file);
+    const QByteArray original = content(file);
+    QRandomGenerator random(20210417);
+    const QByteArray characters = QByteArrayLiteral("\"',;<>&{}[]:\\\n\r\0\x80\xFF#0-.e ");
+    int withEntries = 0;
+    for (int round = 0; round < 300; ++round) {
+        QByteArray bytes = original;
+        for (int i = random.bounded(1, 8); i > 0; --i) {
+            const int place = random.bounded(bytes.size());
+            const int length = std::min(random.bounded(1, 40), bytes.size() - place);
+            if (random.bounded(3) == 0)
+                bytes.remove(place, length);
+            else if (random.bounded(2) == 0)
+                bytes.insert(place, bytes.mid(place, length));
+            else
+                bytes[place] = characters.at(random.bounded(characters.size()));
+        }
+        const FrequencyImport import = Session::importFrequencies(bytes, QTest::currentDataTag());
+        QVERIFY(import.lines.isEmpty() != import.failure.isEmpty());
+        for (const ImportedLine& line : import.lines)
+            QVERIFY(!line.isTaken() || (line.hertz > 0 && line.bandwidth > 0 && !line.entryName.isEmpty()));
+        FrequencyStoreList list;
+        list.SetValidate(true);
+        QVERIFY2(list.SetXmlString(import.toList("Damaged").GetXmlString(true), true),
+                 qPrintable(list.GetCheckReason()));
+        QCOMPARE(list.GetFrequencyStoreEntry().size(), import.takenCount());
+        withEntries += import.takenCount() > 0;
+    }
+    QVERIFY(withEntries > 0);
 }
 
 void TstFrequencyImport::tooManyEntries()
