@@ -2,6 +2,7 @@
 
 #include "editorwindow.h"
 #include "mappicture.h"
+#include "importdialog.h"
 #include "rulespane.h"
 
 #include <isubsetting.h>
@@ -30,8 +31,9 @@ namespace {
 class WindowArtist : public SessionRunner::Artist
 {
 public:
-    explicit WindowArtist(EditorWindow* window)
+    WindowArtist(EditorWindow* window, JobSession* session)
         : m_window(window)
+        , m_session(session)
     {
     }
 
@@ -62,6 +64,14 @@ public:
         return writeMapPicture(file);
     }
 
+    bool drawImport(JobSession::Setting* target, const QString& list, const QString& file) override
+    {
+        ImportDialog dialog(m_session, target, m_window);
+        dialog.readFile(list);
+        dialog.show();
+        return write(&dialog, file);
+    }
+
 private:
     static bool write(QWidget* widget, const QString& file)
     {
@@ -74,6 +84,7 @@ private:
     }
 
     EditorWindow* m_window; // Not owned.
+    JobSession* m_session;  // Not owned.
 };
 
 QString titleOf(const JobSession::Setting* setting)
@@ -119,7 +130,7 @@ int runBatch(const QString& scenarioFile, EditorWindow* window, JobSession* sess
         return fail(finding);
     QObject::connect(session, &JobSession::jobReplaced, window, &EditorWindow::showJob);
     window->show();
-    WindowArtist artist(window);
+    WindowArtist artist(window, session);
     SessionRunner runner(session, &artist);
     const bool isDone = runner.run(scenario);
     for (const Finding& found : runner.findings())

@@ -1,6 +1,9 @@
 #include "importmodel.h"
 
 #include <algorithm>
+#include <QApplication>
+#include <QIcon>
+#include <QStyle>
 
 using Session::ListPreview;
 
@@ -43,6 +46,8 @@ QVariant ImportModel::data(const QModelIndex& index, int role) const
     const ListPreview::Row& row = m_preview.rows.at(index.row());
     if (role == Qt::CheckStateRole && index.column() == LINE && row.entry >= 0)
         return m_isChosen.at(index.row()) ? Qt::Checked : Qt::Unchecked;
+    if (role == Qt::DecorationRole && index.column() == BECOMES && row.entry < 0)
+        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return QVariant();
     const QString texts[] = {QString::number(row.line), row.name, row.source, row.becomes};

@@ -80,6 +80,11 @@ QString chooseStartupMode(const ResourceDescription& resource, JEDVE::enJOB_TYPE
 
 SessionRunner::Artist::~Artist() = default;
 
+bool SessionRunner::Artist::drawImport(JobSession::Setting*, const QString&, const QString&)
+{
+    return false;
+}
+
 SessionRunner::SessionRunner(JobSession* session, Artist* artist)
     : m_session(session)
     , m_artist(artist)
@@ -115,6 +120,7 @@ bool SessionRunner::runStep(const Scenario::Step& step)
         {QLatin1String("picture"), &SessionRunner::picture},
         {QLatin1String("dialog"), &SessionRunner::dialog},
         {QLatin1String("map"), &SessionRunner::map},
+        {QLatin1String("preview"), &SessionRunner::previewImport},
         {QLatin1String("wait"), &SessionRunner::wait},
     };
     m_line = step.line;
@@ -138,8 +144,7 @@ bool SessionRunner::begin(const QStringList& arguments)
 
 bool SessionRunner::open(const QStringList& arguments)
 {
-    // Beside the scenario, so that it can be run from anywhere.
-    const QString path = QFileInfo(m_place).dir().filePath(arguments.value(0));
+    const QString path = besideScenario(arguments.value(0));
     if (!m_session->open(path, &m_findings))
         return false;
     m_current = m_session->topLevelCount() > 0 ? 0 : -1;
@@ -241,7 +246,7 @@ bool SessionRunner::expect(const QStringList& arguments)
 
 bool SessionRunner::import(const QStringList& arguments)
 {
-    const QString path = QFileInfo(m_place).dir().filePath(arguments.value(0));
+    const QString path = besideScenario(arguments.value(0));
     const QString format = arguments.value(1, guessListFormat(path));
     if (!listFormats().contains(format))
         return refuse(Texts::tr("there is no format of lists \"%1\"").arg(format),
@@ -253,9 +258,7 @@ bool SessionRunner::import(const QStringList& arguments)
         if (row.entry < 0)
             m_findings.append({Finding::WARNING, path, row.line, 0, row.becomes, QString()});
     }
-    for (const QString& set : parameterSetsOf(preview.list))
-        carrierOf(set);
-    JobSession::Setting* const target = importTarget(*m_session, m_session->settingAt({m_current}));
+    JobSession::Setting* const target = targetOf(preview.list);
     if (!target)
         return refuse(Texts::tr("there is no sub-job that takes a list"));
     QList<JobSession::Setting*> made;
@@ -284,6 +287,16 @@ bool SessionRunner::dialog(const QStringList& arguments)
 {
     const QString file = arguments.value(2);
     return drawn(m_artist && m_artist->drawDialog(arguments.value(0), arguments.value(1), file), file);
+}
+
+bool SessionRunner::previewImport(const QStringList& arguments)
+{
+    const QString path = besideScenario(arguments.value(0));
+    JobSession::Setting* const target = targetOf(previewList(path, guessListFormat(path)).list);
+    if (!target)
+        return refuse(Texts::tr("there is no sub-job that takes a list"));
+    const QString file = arguments.value(1);
+    return drawn(m_artist && m_artist->drawImport(target, path, file), file);
 }
 
 bool SessionRunner::wait(const QStringList& arguments)
@@ -340,6 +353,20 @@ JobSession::Setting* SessionRunner::carrierOf(const QString& parameterSet)
             m_session->undoStack()->undo();
     }
     return nullptr;
+}
+
+// So that it can be run from anywhere.
+QString SessionRunner::besideScenario(const QString& file) const
+{
+    return QFileInfo(m_place).dir().filePath(file);
+}
+
+// The current sub-job, with settings for all that a list holds; null if it takes no list.
+JobSession::Setting* SessionRunner::targetOf(const FreqStoreXml::FrequencyStoreList& list)
+{
+    for (const QString& set : parameterSetsOf(list))
+        carrierOf(set);
+    return importTarget(*m_session, m_session->settingAt({m_current}));
 }
 
 } // namespace Session

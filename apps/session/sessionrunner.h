@@ -5,6 +5,10 @@
 
 #include <QStringList>
 
+namespace FreqStoreXml {
+class FrequencyStoreList;
+}
+
 namespace Session {
 
 /// Runs a scenario on a job session: the settings are made and changed by the plug-ins, as in the editor. GUI thread
@@ -23,9 +27,11 @@ public:
         virtual bool drawDialog(const QString& type, const QString& detector, const QString& file) = 0;
         /// The map with the regions of all settings, as the user sees it who edits one.
         virtual bool drawMap(JobSession::Setting* current, const QString& file) = 0;
+        /// The dialog that shows a list of frequencies before a setting takes it over; nothing here.
+        virtual bool drawImport(JobSession::Setting* target, const QString& list, const QString& file);
     };
 
-    /// \param artist  for the steps "picture", "dialog" and "map"; null: there are no pictures. Not owned.
+    /// \param artist  for the steps "picture", "dialog", "map" and "preview"; null: there are no pictures. Not owned.
     SessionRunner(JobSession* session, Artist* artist);
 
     /// Runs the steps up to the first that cannot be done.
@@ -51,10 +57,13 @@ private:
     bool picture(const QStringList& arguments);
     bool dialog(const QStringList& arguments);
     bool map(const QStringList& arguments);
+    bool previewImport(const QStringList& arguments);
     bool wait(const QStringList& arguments);
     bool drawn(bool isWritten, const QString& file);
     bool refuse(const QString& text, const QString& advice = QString());
     JobSession::Setting* carrierOf(const QString& parameterSet);
+    QString besideScenario(const QString& file) const;
+    JobSession::Setting* targetOf(const FreqStoreXml::FrequencyStoreList& list);
 
     JobSession* m_session; // Not owned.
     Artist* m_artist;      // Not owned.

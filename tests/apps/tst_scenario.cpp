@@ -84,7 +84,7 @@ void TstScenario::faultsNameTheLine_data()
     QTest::newRow("far from any verb")
         << "destroy"
         << "s:1: error: \"destroy\" is no verb of a scenario\n"
-           "    Verbs are new, open, add, set, select, expect, import, save, picture, dialog, map, wait.";
+           "    Verbs are new, open, add, set, select, expect, import, save, picture, dialog, map, preview, wait.";
     QTest::newRow("too few")
         << "\nset a"
         << "s:2: error: \"set\" does not go with 1 arguments\n    Write: set SET/FIELD VALUE";
@@ -144,6 +144,7 @@ void TstScenario::theHelpNamesEachVerb()
                                             "  picture FILE (job editor)\n"
                                             "  dialog TYPE DETECTOR FILE (job editor)\n"
                                             "  map FILE (job editor)\n"
+                                            "  preview LIST FILE (job editor)\n"
                                             "  wait SECONDS (job editor)\n"));
 }
 
