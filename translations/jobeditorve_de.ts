@@ -5870,6 +5870,10 @@ beantwortet: %3
         <source>map FILE (job editor)</source>
         <translation>map DATEI (Auftragseditor)</translation>
     </message>
+    <message>
+        <source>preview LIST FILE (job editor)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Session::ScenarioRunner</name>

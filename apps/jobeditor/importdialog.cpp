@@ -93,16 +93,18 @@ void ImportDialog::buildTable()
 
 void ImportDialog::readFile(const QString& path)
 {
-    m_file->setText(QDir::toNativeSeparators(path));
+    m_path = path;
+    m_file->setText(QFileInfo(path).fileName());
+    m_file->setToolTip(QDir::toNativeSeparators(path));
     m_format->setCurrentIndex(m_format->findData(Session::guessListFormat(path)));
     read();
 }
 
 void ImportDialog::chooseFile()
 {
-    const QString folder = m_file->text().isEmpty()
+    const QString folder = m_path.isEmpty()
                                ? Session::installationFolder() + QStringLiteral("/FrequencyLists")
-                               : QFileInfo(m_file->text()).path();
+                               : QFileInfo(m_path).path();
     const QString path = QFileDialog::getOpenFileName(
         this, tr("Import a list"), folder, tr("Lists of frequencies (*.xml *.csv *.json);;All files (*)"));
     if (!path.isEmpty())
@@ -111,12 +113,12 @@ void ImportDialog::chooseFile()
 
 void ImportDialog::read()
 {
-    if (m_isReading || m_file->text().isEmpty())
+    if (m_isReading || m_path.isEmpty())
         return;
     m_isStopped = false;
     setReading(true);
     const ListPreview preview =
-        Session::previewList(QDir::fromNativeSeparators(m_file->text()), m_format->currentData().toString(),
+        Session::previewList(m_path, m_format->currentData().toString(),
                              [this](int done, int total) { return goOn(done, total); });
     setReading(false);
     m_model->setPreview(preview);
@@ -151,7 +153,7 @@ void ImportDialog::showSummary()
     const int chosen = m_model->chosenEntries().size();
     m_import->setEnabled(chosen > 0);
     QStringList lines;
-    if (m_file->text().isEmpty())
+    if (m_path.isEmpty())
         lines.append(tr("Choose a list of frequencies."));
     else if (!preview.failure.isEmpty())
         lines.append(tr("The list is refused: %1").arg(preview.failure));

@@ -39,6 +39,7 @@ private:
     Session::JobSession* m_session;         // Not owned.
     Session::JobSession::Setting* m_target; // The session's.
     ImportModel* m_model;
+    QString m_path; // Of the list; empty until there is one.
     QLineEdit* m_file;
     QPushButton* m_choose;
     QComboBox* m_format;
