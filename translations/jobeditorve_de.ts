@@ -5872,7 +5872,7 @@ beantwortet: %3
     </message>
     <message>
         <source>preview LIST FILE (job editor)</source>
-        <translation type="unfinished"></translation>
+        <translation>preview LISTE FILE (Auftragseditor)</translation>
     </message>
 </context>
 <context>
