@@ -1,8 +1,8 @@
 #include "batch.h"
 
 #include "editorwindow.h"
-#include "mappicture.h"
 #include "importdialog.h"
+#include "mappicture.h"
 #include "rulespane.h"
 
 #include <isubsetting.h>
