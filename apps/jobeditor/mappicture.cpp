@@ -1,7 +1,5 @@
 #include "mappicture.h"
 
-#include "mapcontrol.h"
-
 #include <mapviewlayermanager.h>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -19,12 +17,12 @@ constexpr int POLL_TIME = 10;    // ms
 
 // Runs the event loop until something is so, or the program ends.
 template <class Condition>
-bool waitFor(const QProcess& program, Condition condition)
+bool waitFor(const QProcess& process, Condition condition)
 {
     QElapsedTimer time;
     time.start();
     while (!condition()) {
-        if (program.state() == QProcess::NotRunning || time.elapsed() > MOST_TIME)
+        if (process.state() == QProcess::NotRunning || time.elapsed() > MOST_TIME)
             return false;
         QEventLoop loop;
         QTimer::singleShot(POLL_TIME, &loop, &QEventLoop::quit);
@@ -34,23 +32,23 @@ bool waitFor(const QProcess& program, Condition condition)
 }
 } // namespace
 
-bool writeMapPicture(const QString& file)
+bool writeMapPicture(const QString& file, const QString& program)
 {
     const auto* const map = MapViewLayerManager::getInstance(QCoreApplication::applicationName());
     QStringList arguments = MapControl::arguments();
     arguments << QStringLiteral("--picture") << QFileInfo(file).absoluteFilePath();
     if (QApplication::palette().color(QPalette::Window).lightness() < 128)
         arguments << QStringLiteral("--dark");
-    QProcess program;
-    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(MapControl::defaultProgram(), arguments);
-    if (!program.waitForStarted(MOST_TIME) || !waitFor(program, [map] { return map->isConnected(); }))
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(program, arguments);
+    if (!process.waitForStarted(MOST_TIME) || !waitFor(process, [map] { return map->isConnected(); }))
         return false;
     // The picture is taken when a client leaves. What the plug-ins have drawn is on its way before this one comes.
-    auto visitor = std::make_unique<MapViewInterface>(QString(), QStringLiteral("picture"));
-    if (!waitFor(program, [&visitor] { return visitor->isConnected(); }))
+    auto visitor = std::make_unique<MapViewInterface>(QString(), QCoreApplication::applicationName());
+    if (!waitFor(process, [&visitor] { return visitor->isConnected(); }))
         return false;
     visitor.reset();
-    return program.waitForFinished(MOST_TIME) && program.exitStatus() == QProcess::NormalExit &&
-           program.exitCode() == 0;
+    return process.waitForFinished(MOST_TIME) && process.exitStatus() == QProcess::NormalExit &&
+           process.exitCode() == 0;
 }

@@ -7,11 +7,17 @@
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QEventLoop>
 #include <QLabel>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QStyleFactory>
+#include <QTimer>
 #include <QWhatsThis>
+
+namespace {
+constexpr int PICTURE_TIME = 300; // ms
+} // namespace
 
 MapWindow::MapWindow()
     : m_canvas(new MapCanvas(&m_scene, this))
@@ -121,6 +127,9 @@ void MapWindow::addPane(QWidget* pane, const QString& title)
 void MapWindow::leaveWithPicture(const QString& file)
 {
     m_canvas->showObjects();
-    QApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
+    // The list of objects is filled with a delay.
+    QEventLoop loop;
+    QTimer::singleShot(PICTURE_TIME, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeSocketNotifiers);
     QApplication::exit(grab().save(file, "PNG") ? 0 : 1);
 }

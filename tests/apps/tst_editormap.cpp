@@ -3,13 +3,18 @@
 
 #include <isubsetting.h>
 #include <jobeditor/mapcontrol.h>
+#include <jobeditor/mappicture.h>
 #include <mapviewlayermanager.h>
 #include <QAbstractButton>
 #include <QAction>
+#include <QDir>
+#include <QImage>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QProcess>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <session/installation.h>
 #include <session/jobsession.h>
 #include <session/pluginhost.h>
@@ -22,6 +27,8 @@ using Session::JobSession;
 using Session::PluginHost;
 
 namespace {
+const QString PROGRAM = JED_BINARY_DIR "/bin/mapview";
+
 QString serverName()
 {
     return QString("jed-editor-map-%1").arg(QCoreApplication::applicationPid());
@@ -39,17 +46,24 @@ private slots:
     void stateIsTold();
     void openMapNeedsNoOther();
     void missingProgramIsTold();
+    void programIsStartedAndEndsWithTheEditor();
+    void programOfSomebodyElseStays();
+    void pictureShowsTheRegions();
     void eachMoveIsAStepOfItsOwn();
     void moveIsNoPartOfTheEditBefore();
     void deletionAndMoveAreTwoSteps();
 
 private:
+    static MapViewLayerManager* manager()
+    {
+        return QCoreApplication::instance()->findChild<MapViewLayerManager*>();
+    }
     QString state() const { return m_window->findChild<QLabel*>("mapState")->text(); }
     void openJob(const QString& name);
     void moveOnMap(const QString& name, const QVector<QPointF>& points);
     QString west(const QString& name);
 
-    PluginHost m_host;
+    std::unique_ptr<PluginHost> m_host;
     std::unique_ptr<JobSession> m_session;
     std::unique_ptr<QMainWindow> m_window;
     std::unique_ptr<RecordingMap> m_map;
@@ -65,12 +79,14 @@ void TstEditorMap::initTestCase()
     QString error;
     QVERIFY2(Session::chooseInstallation(JED_SOURCE_DIR "/installation", QString(), &error),
              qPrintable(error));
-    m_host.load(PluginHost::defaultFolders());
 }
 
 void TstEditorMap::init()
 {
-    m_session = std::make_unique<JobSession>(m_host.factories());
+    // As in the editor: the control is there before the plug-ins have to do with a map.
+    m_host = std::make_unique<PluginHost>();
+    m_host->load(PluginHost::defaultFolders());
+    m_session = std::make_unique<JobSession>(m_host->factories());
     m_window = std::make_unique<QMainWindow>();
     m_control = new MapControl(m_window.get(), m_session.get(), "/nonexistent/mapview");
     m_window->show();
@@ -82,10 +98,10 @@ void TstEditorMap::cleanup()
 {
     m_window.reset();
     m_session.reset();
+    m_host.reset();
     m_map.reset();
     m_shapes.reset();
-    const auto* const manager = QCoreApplication::instance()->findChild<MapViewLayerManager*>();
-    QTRY_VERIFY(!manager->isConnected());
+    QTRY_VERIFY(!manager()->isConnected());
 }
 
 void TstEditorMap::openJob(const QString& name)
@@ -152,6 +168,47 @@ void TstEditorMap::missingProgramIsTold()
     QTRY_COMPARE(told,
                  QString("The map program could not be started. It is expected as /nonexistent/mapview. "
                          "Install it there, or start a map program by hand: the editor finds it by itself."));
+}
+
+void TstEditorMap::programIsStartedAndEndsWithTheEditor()
+{
+    const auto* const control = new MapControl(m_window.get(), m_session.get(), PROGRAM);
+    control->action()->trigger();
+    QTRY_VERIFY_WITH_TIMEOUT(manager()->isConnected(), 20000);
+    QCOMPARE(state(), QString("Map: linked"));
+    control->action()->trigger(); // No second one, which would complain.
+    m_window.reset();
+}
+
+void TstEditorMap::programOfSomebodyElseStays()
+{
+    QProcess program;
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.start(PROGRAM, QStringList());
+    QTRY_VERIFY_WITH_TIMEOUT(manager()->isConnected(), 20000);
+    m_control->action()->trigger();
+    m_window.reset();
+    QTest::qWait(100);
+    QVERIFY(manager()->isConnected());
+    program.terminate();
+    QVERIFY(program.waitForFinished(20000));
+}
+
+void TstEditorMap::pictureShowsTheRegions()
+{
+    const QTemporaryDir folder;
+    QVERIFY(m_session->open(JED_SOURCE_DIR "/installation/Jobs/dfscan.xml", nullptr));
+    QVERIFY(writeMapPicture(folder.filePath("with.png"), PROGRAM));
+    m_session->begin(JEDVE::JOB_TYPE_DF_SCAN, "Empty");
+    QTRY_VERIFY(!manager()->isConnected());
+    QVERIFY(writeMapPicture(folder.filePath("without.png"), PROGRAM));
+    const QImage with(folder.filePath("with.png"));
+    const QImage without(folder.filePath("without.png"));
+    QVERIFY(!with.isNull() && with.size() == without.size());
+    QVERIFY(with != without);
+    QVERIFY(!writeMapPicture(folder.filePath("none.png"), "/nonexistent/mapview"));
+    QVERIFY(!writeMapPicture(folder.filePath("no/folder.png"), PROGRAM));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList({"with.png", "without.png"}));
 }
 
 void TstEditorMap::eachMoveIsAStepOfItsOwn()
