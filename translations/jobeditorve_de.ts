@@ -5874,6 +5874,10 @@ beantwortet: %3
         <source>preview LIST FILE (job editor)</source>
         <translation>preview LISTE FILE (Auftragseditor)</translation>
     </message>
+    <message>
+        <source>dock NAME FILE (job editor)</source>
+        <translation>dock NAME DATEI (Auftragseditor)</translation>
+    </message>
 </context>
 <context>
     <name>Session::ScenarioRunner</name>
@@ -6107,13 +6111,6 @@ beantwortet: %3
     <message>
         <source>%1: remove the entry</source>
         <translation>%1: Eintrag entfernen</translation>
-    </message>
-</context>
-<context>
-    <name>main</name>
-    <message>
-        <source>Composes jobs for radio monitoring.</source>
-        <translation>Stellt Aufträge für die Funküberwachung zusammen.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 
 #include "editorwindow.h"
 #include "importdialog.h"
+#include "mapcontrol.h"
 #include "mappicture.h"
 #include "rulespane.h"
 
@@ -10,9 +11,12 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QPalette>
 #include <QPixmap>
+#include <QSettings>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <resourcedescription.h>
 #include <resourceselectiondialog.h>
@@ -56,6 +60,17 @@ public:
         choose("ResourceSelection_DetectorType", JEDVEPLUGIN::JEDCommonHelper::detectorTypeToGUI(detector));
         dialog.show();
         return write(&dialog, file);
+    }
+
+    bool drawDock(const QString& name, JobSession::Setting* current, const QString& file) override
+    {
+        auto* const dock = m_window->findChild<QDockWidget*>(name + QStringLiteral("Dock"));
+        if (!dock)
+            return false;
+        dock->show();
+        dock->raise();
+        m_window->setCurrentSetting(current);
+        return write(m_window, file);
     }
 
     bool drawMap(JobSession::Setting* current, const QString& file) override
@@ -140,6 +155,14 @@ int runBatch(const QString& scenarioFile, EditorWindow* window, JobSession* sess
     if (const auto* const rules = window->findChild<RulesPane*>())
         QTextStream(stdout) << valuesSetByRules(*session, rules->log());
     return isDone ? 0 : 1;
+}
+
+void standAlone()
+{
+    MapControl::useMapOfItsOwn();
+    static const QTemporaryDir s_folder;
+    for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
+        QSettings::setPath(format, QSettings::UserScope, s_folder.path());
 }
 
 int failBatch(const QString& reason)

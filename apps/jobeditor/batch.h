@@ -13,6 +13,10 @@ class JobSession;
 /// \return 0 if all steps were done, 1 if not, 2 if the scenario cannot be read
 int runBatch(const QString& scenarioFile, EditorWindow* window, Session::JobSession* session);
 
+/// For a run without a person: a map and settings of its own, gone when it ends. What was open before is not to be
+/// seen in pictures, and a person's recent jobs stay.
+void standAlone();
+
 /// Tells why a scenario cannot be run at all. \return 2
 int failBatch(const QString& reason);
 

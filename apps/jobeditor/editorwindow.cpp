@@ -36,7 +36,7 @@ using Session::LeftJob;
 using Session::Recovery;
 
 namespace {
-constexpr int DOCK_HEIGHT = 150;
+constexpr int DOCK_HEIGHT = 200;
 
 // What cannot be used says why.
 void setUsable(QAction* action, const QString& obstacle)

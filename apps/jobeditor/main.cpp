@@ -1,6 +1,5 @@
 #include <jobeditor/batch.h>
 #include <jobeditor/editorwindow.h>
-#include <jobeditor/mapcontrol.h>
 
 #include <QCommandLineParser>
 #include <QMessageBox>
@@ -17,18 +16,16 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("jobeditor"));
     QCoreApplication::setOrganizationName(QStringLiteral("jobeditorve"));
     QCoreApplication::setApplicationVersion(QStringLiteral(JED_VERSION));
-
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QCoreApplication::translate("main", "Composes jobs for radio monitoring."));
+    const auto text = [](const char* source) { return QCoreApplication::translate("main", source); };
+    parser.setApplicationDescription(text("Composes jobs for radio monitoring."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const auto text = [](const char* source) { return QCoreApplication::translate("main", source); };
-    parser.addOption({QStringLiteral("installation"), text("Folder of the installation."), text("DIR")});
-    parser.addOption({QStringLiteral("plugin-dir"), text("A further folder with plug-ins."), text("DIR")});
-    parser.addOption({QStringLiteral("clean-settings"), text("Forget window places and recent jobs first.")});
-    parser.addOption({QStringLiteral("batch"), text("Run a scenario without a person."), text("FILE")});
-    parser.addOption({QStringLiteral("dark"), text("Light colours on dark windows.")});
+    parser.addOptions({{QStringLiteral("installation"), text("Folder of the installation."), text("DIR")},
+                       {QStringLiteral("plugin-dir"), text("A further folder with plug-ins."), text("DIR")},
+                       {QStringLiteral("clean-settings"), text("Forget window places and recent jobs.")},
+                       {QStringLiteral("batch"), text("Run a scenario without a person."), text("FILE")},
+                       {QStringLiteral("dark"), text("Light colours on dark windows.")}});
     parser.addPositionalArgument(QStringLiteral("job"), text("Job file to open."), QStringLiteral("[job]"));
     parser.process(*application);
 
@@ -37,7 +34,7 @@ int main(int argc, char* argv[])
     const QString scenario = parser.value(QStringLiteral("batch"));
     const bool isDark = parser.isSet(QStringLiteral("dark"));
     if (!scenario.isEmpty())
-        MapControl::useMapOfItsOwn();
+        standAlone();
     if (isDark || !scenario.isEmpty())
         useFixedLooks(isDark);
     QString error;
@@ -48,7 +45,6 @@ int main(int argc, char* argv[])
             return failBatch(error);
         QMessageBox::warning(nullptr, text("Job editor"), error);
     }
-
     Session::PluginHost host;
     host.load(parser.values(QStringLiteral("plugin-dir")) + Session::PluginHost::defaultFolders());
     Session::JobSession session(host.factories());

@@ -50,15 +50,15 @@ StartPage::StartPage(QWidget* parent)
 
 void StartPage::setRecentJobs(const QStringList& files)
 {
-    fill(m_recent, files);
+    fill(m_recent, files, true);
 }
 
 void StartPage::setExampleJobs(const QStringList& files)
 {
-    fill(m_examples, files);
+    fill(m_examples, files, false);
 }
 
-void StartPage::fill(QVBoxLayout* layout, const QStringList& files)
+void StartPage::fill(QVBoxLayout* layout, const QStringList& files, bool withFolders)
 {
     while (QLayoutItem* const item = layout->takeAt(0)) {
         delete item->widget();
@@ -69,7 +69,8 @@ void StartPage::fill(QVBoxLayout* layout, const QStringList& files)
         if (!info.isFile())
             continue;
         auto* const button = new QCommandLinkButton(info.completeBaseName(), this);
-        button->setDescription(QDir::toNativeSeparators(info.absolutePath()));
+        if (withFolders)
+            button->setDescription(QDir::toNativeSeparators(info.absolutePath()));
         button->setToolTip(QDir::toNativeSeparators(info.absoluteFilePath()));
         connect(button, &QAbstractButton::clicked, this, [this, file] { emit openWanted(file); });
         layout->addWidget(button);

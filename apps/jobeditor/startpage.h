@@ -21,7 +21,7 @@ signals:
     void openWanted(const QString& file);
 
 private:
-    void fill(QVBoxLayout* layout, const QStringList& files);
+    void fill(QVBoxLayout* layout, const QStringList& files, bool withFolders);
 
     QVBoxLayout* m_recent;
     QVBoxLayout* m_examples;

@@ -28,6 +28,7 @@ const Verb VERBS[] = {
     {QLatin1String("picture"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "picture FILE (job editor)")},
     {QLatin1String("dialog"), 3, 3,
      QT_TRANSLATE_NOOP("Session::Scenario", "dialog TYPE DETECTOR FILE (job editor)")},
+    {QLatin1String("dock"), 2, 2, QT_TRANSLATE_NOOP("Session::Scenario", "dock NAME FILE (job editor)")},
     {QLatin1String("map"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "map FILE (job editor)")},
     {QLatin1String("preview"), 2, 2,
      QT_TRANSLATE_NOOP("Session::Scenario", "preview LIST FILE (job editor)")},

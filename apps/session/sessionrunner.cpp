@@ -119,6 +119,7 @@ bool SessionRunner::runStep(const Scenario::Step& step)
         {QLatin1String("save"), &SessionRunner::save},
         {QLatin1String("picture"), &SessionRunner::picture},
         {QLatin1String("dialog"), &SessionRunner::dialog},
+        {QLatin1String("dock"), &SessionRunner::dock},
         {QLatin1String("map"), &SessionRunner::map},
         {QLatin1String("preview"), &SessionRunner::previewImport},
         {QLatin1String("wait"), &SessionRunner::wait},
@@ -309,6 +310,12 @@ bool SessionRunner::wait(const QStringList& arguments)
     QTimer::singleShot(int(seconds * 1000), &loop, &QEventLoop::quit);
     loop.exec();
     return true;
+}
+
+bool SessionRunner::dock(const QStringList& arguments)
+{
+    const QString file = arguments.value(1);
+    return drawn(m_artist && m_artist->drawDock(arguments.value(0), m_shown, file), file);
 }
 
 bool SessionRunner::map(const QStringList& arguments)

@@ -25,13 +25,16 @@ public:
         virtual bool drawSetting(JobSession::Setting* current, const QString& file) = 0;
         /// The dialog for a new sub-job, with a type of receivers and a type of detector chosen.
         virtual bool drawDialog(const QString& type, const QString& detector, const QString& file) = 0;
+        /// The window with one of its docks in front: "problems", "frequencies", "resources", "trace" or "rules".
+        /// \return false as well for a dock that there is not
+        virtual bool drawDock(const QString& name, JobSession::Setting* current, const QString& file) = 0;
         /// The map with the regions of all settings, as the user sees it who edits one.
         virtual bool drawMap(JobSession::Setting* current, const QString& file) = 0;
         /// The dialog that shows a list of frequencies before a setting takes it over; nothing here.
         virtual bool drawImport(JobSession::Setting* target, const QString& list, const QString& file);
     };
 
-    /// \param artist  for the steps "picture", "dialog", "map" and "preview"; null: there are no pictures. Not owned.
+    /// \param artist  for the steps "picture", "dialog", "dock", "map" and "preview"; null: there are no pictures. Not owned.
     SessionRunner(JobSession* session, Artist* artist);
 
     /// Runs the steps up to the first that cannot be done.
@@ -56,6 +59,7 @@ private:
     bool save(const QStringList& arguments);
     bool picture(const QStringList& arguments);
     bool dialog(const QStringList& arguments);
+    bool dock(const QStringList& arguments);
     bool map(const QStringList& arguments);
     bool previewImport(const QStringList& arguments);
     bool wait(const QStringList& arguments);

@@ -493,13 +493,17 @@ void TstJobSession::scenarioIsRun()
     {
         bool drawSetting(ISubSetting* current, const QString& file) override
         {
-            m_drawn.append(file + " " + current->getSettingType());
+            m_drawn.append(file + " " + (current ? current->getSettingType() : QString("start")));
             return true;
         }
         bool drawDialog(const QString& type, const QString& detector, const QString& file) override
         {
             m_drawn.append(file + " " + type + " " + detector);
             return true;
+        }
+        bool drawDock(const QString& name, ISubSetting* current, const QString& file) override
+        {
+            return drawSetting(current, name + " " + file);
         }
         bool drawMap(ISubSetting* current, const QString& file) override
         {
@@ -510,7 +514,9 @@ void TstJobSession::scenarioIsRun()
     } recorder;
     SessionRunner runner(m_session.get(), &recorder);
     QVERIFY2(runner.run(scenario), qPrintable(runner.findings().value(0).toText()));
+    QVERIFY(recorder.m_drawn.contains("start.png start"));
     QVERIFY(recorder.m_drawn.contains("tuner.png Tuner"));
+    QVERIFY(recorder.m_drawn.contains("rules rules.png Scan"));
     QVERIFY(recorder.m_drawn.contains("dialog-hopper.png HT720 HopperDetector"));
     QCOMPARE(runner.files().size(), recorder.m_drawn.size() + 1);
     Findings findings;
