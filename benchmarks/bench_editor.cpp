@@ -183,17 +183,22 @@ void arrowHeldDown(benchmark::State& state)
     state.counters["longest_ms"] = double(longest);
 }
 
-/// The content of the copy for recovery after one edit.
+/// The copy for recovery after one edit.
 void keepCopy(benchmark::State& state)
 {
     JobSession& session = editorWith(int(state.range(0))).session();
+    const QTemporaryDir folder;
+    Session::Recovery recovery(&session, folder.path());
     ISubSetting* const tuner = findSetting(session.settingAt({0}), "TunerSettings");
     int frequency = 7000000;
+    // It was not there when the job was read, and knows nothing of it yet.
+    setFrequency(&session, tuner, frequency);
+    recovery.keep();
     for (auto _ : state) {
         state.PauseTiming();
         setFrequency(&session, tuner, frequency += 1000);
         state.ResumeTiming();
-        benchmark::DoNotOptimize(session.draft());
+        recovery.keep();
     }
 }
 

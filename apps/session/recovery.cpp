@@ -1,9 +1,9 @@
 #include "recovery.h"
 
-#include "jobsession.h"
 #include "savefile.h"
 
 #include <algorithm>
+#include <jedsubsettingfactory.h>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -116,9 +116,7 @@ Recovery::Recovery(JobSession* session, const QString& folder, QObject* parent)
     setDelays(IDLE_DELAY, LATEST_DELAY);
     connect(&m_idle, &QTimer::timeout, this, &Recovery::keep);
     connect(&m_latest, &QTimer::timeout, this, &Recovery::keep);
-    connect(session->undoStack(), &QUndoStack::indexChanged, this, &Recovery::noteChange);
-    connect(session->undoStack(), &QUndoStack::cleanChanged, this, &Recovery::noteChange);
-    connect(session, &JobSession::jobLeaving, this, &Recovery::clear);
+    watch();
 }
 
 Recovery::~Recovery()
@@ -194,11 +192,23 @@ bool Recovery::keep()
     job.name = m_session->document().job().GetJobInformation().GetName();
     job.written = QDateTime::currentDateTimeUtc();
     job.savedTime = savedTimeOf(job.path);
-    job.content = m_session->draft();
+    job.content = content();
     if (saveFile(m_file, toBytes(job), &reason))
         return true;
     emit failed(reason);
     return false;
+}
+
+void Recovery::watch()
+{
+    connect(m_session->undoStack(), &QUndoStack::indexChanged, this, &Recovery::noteChange);
+    connect(m_session->undoStack(), &QUndoStack::cleanChanged, this, &Recovery::noteChange);
+    connect(m_session, &JobSession::jobLeaving, this, &Recovery::clear);
+    connect(m_session, &JobSession::jobReplaced, this, &Recovery::takeAsRead);
+    connect(m_session, &JobSession::settingChanged, this, &Recovery::forget);
+    connect(m_session, &JobSession::settingLeaving, this, &Recovery::forget);
+    for (const JobSession::Factory* factory : m_session->factories())
+        connect(factory, &JobSession::Factory::stateChanged, this, &Recovery::forget);
 }
 
 void Recovery::noteChange()
@@ -219,6 +229,44 @@ void Recovery::clear()
     QFile::remove(m_file);
     m_lock.reset();
     m_file.clear();
+}
+
+// What nobody has changed is written as it was read.
+void Recovery::takeAsRead()
+{
+    m_written.clear();
+    for (int i = 0; i < m_session->topLevelCount(); ++i)
+        m_written.insert(m_session->topLevel(i).number, m_session->topLevel(i).subjob);
+}
+
+void Recovery::forget(const JEDVEPLUGIN::ISubSetting* setting)
+{
+    const int index = m_session->rootIndex(setting);
+    if (index >= 0)
+        m_written.remove(m_session->topLevel(index).number);
+}
+
+// As JobSession::draft(), but only what changed since the last time is composed again: a large job must not stand
+// still for its copy.
+QByteArray Recovery::content()
+{
+    m_session->flushEdits();
+    QHash<int, JobXml::Subjob> written;
+    QVector<JobXml::Subjob> subjobs;
+    for (int i = 0; i < m_session->topLevelCount(); ++i) {
+        const int number = m_session->topLevel(i).number;
+        const auto known = m_written.constFind(number);
+        JobXml::Subjob& subjob = written[number];
+        if (known != m_written.constEnd())
+            subjob = *known;
+        else
+            m_session->composeSubjob(i, &subjob, nullptr);
+        subjobs.append(subjob);
+    }
+    m_written = written;
+    JobDocument draft = m_session->document();
+    draft.job().SetSubjob(subjobs);
+    return draft.text();
 }
 
 } // namespace Session

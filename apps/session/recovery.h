@@ -1,6 +1,6 @@
 #pragma once
 
-#include "finding.h"
+#include "jobsession.h"
 
 #include <memory>
 #include <QDateTime>
@@ -9,8 +9,6 @@
 #include <QTimer>
 
 namespace Session {
-
-class JobSession;
 
 /// What an editor that came to no good end left of a job.
 struct LeftJob
@@ -63,8 +61,12 @@ signals:
     void failed(const QString& reason);
 
 private:
+    void watch();
     void noteChange();
     void clear();
+    void takeAsRead();
+    void forget(const JEDVEPLUGIN::ISubSetting* setting);
+    QByteArray content();
 
     JobSession* m_session; // Not owned.
     const QString m_folder;
@@ -72,6 +74,7 @@ private:
     std::unique_ptr<QLockFile> m_lock;
     QTimer m_idle;
     QTimer m_latest;
+    QHash<int, JobXml::Subjob> m_written; // By the number of the top-level setting, until it changes.
 };
 
 } // namespace Session

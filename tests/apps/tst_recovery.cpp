@@ -16,6 +16,7 @@
 #include <session/savefile.h>
 #include <support/accessiblenames.h>
 
+using JEDVEPLUGIN::ISubSetting;
 using Session::Findings;
 using Session::JobSession;
 using Session::LeftJob;
@@ -71,6 +72,7 @@ private slots:
     void aCopyIsKeptInTheMidstOfChanges();
     void theCopyGoesWithTheChanges_data();
     void theCopyGoesWithTheChanges();
+    void theCopyHoldsEveryChange();
     void aLeftJobIsRecovered();
     void aJobThatWasNeverSavedIsRecovered();
     void aFileThatChangedMeanwhileIsNamed();
@@ -184,6 +186,39 @@ void TstRecovery::theCopyGoesWithTheChanges()
     else
         m_recovery.reset();
     QCOMPARE(files(), QStringList());
+}
+
+void TstRecovery::theCopyHoldsEveryChange()
+{
+    const auto isInStep = [this] {
+        if (!m_recovery->keep())
+            return false;
+        const QStringList copies = QDir(folder()).entryList({"*.recovery"}, QDir::Files);
+        QByteArray bytes;
+        return Session::readFile(folder() + '/' + copies.value(0), &bytes, nullptr) &&
+               bytes.mid(bytes.indexOf('\n') + 1) == m_session->draft();
+    };
+    ISubSetting* const first = m_session->settingAt({0});
+    QVERIFY(m_session->rename(first, "Renamed"));
+    QVERIFY(isInStep());
+    QVERIFY(m_session->duplicate(first));
+    QVERIFY(isInStep());
+    ISubSetting* const last = m_session->settingAt({m_session->topLevelCount() - 1});
+    QVERIFY(m_session->remove(last->child(0)));
+    QVERIFY(isInStep());
+    const QStringList types = m_session->addableTypes(m_session->factoryOf(last), last);
+    QVERIFY(m_session->add(m_session->factoryOf(last), types.value(0), last, nullptr));
+    QVERIFY(isInStep());
+    QVERIFY(m_session->move(nullptr, 0, 2));
+    QVERIFY(isInStep());
+    QVERIFY(m_session->setParameterSet(first, "SubJob", last->parameterSetText("SubJob")));
+    QVERIFY(isInStep());
+    QVERIFY(m_session->remove(first));
+    QVERIFY(isInStep());
+    while (m_session->undoStack()->index() > 1) {
+        m_session->undoStack()->undo();
+        QVERIFY(isInStep());
+    }
 }
 
 void TstRecovery::aLeftJobIsRecovered()

@@ -28,10 +28,10 @@ void killWhileSaving(const Save& save, int delay)
         qFatal("no pipe");
     const pid_t child = fork();
     if (child == 0) {
-        const bool isTold = write(begun[1], "x", 1) == 1;
-        for (int version = 0; isTold; ++version)
+        if (write(begun[1], "x", 1) != 1)
+            _exit(1);
+        for (int version = 0;; ++version)
             save(version % 2);
-        _exit(1);
     }
     char byte = 0;
     const bool hasBegun = read(begun[0], &byte, 1) == 1;
