@@ -73,7 +73,7 @@ ImportDialog::ImportDialog(JobSession* session, JobSession::Setting* target, QWi
     layout->addWidget(m_summary);
     layout->addWidget(m_progress);
     layout->addWidget(buttons);
-    resize(760, 460);
+    resize(880, 460);
     setReading(false);
     showSummary();
 }
