@@ -3,10 +3,10 @@
 #include <jedsubsettingfactory.h>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <rulecheck/pluginrules.h>
+#include <rulecheck/rulecheck.h>
+#include <rulecheck/rulefindings.h>
 #include <session/pluginhost.h>
-#include <session/pluginrules.h>
-#include <session/rulecheck.h>
-#include <session/rulefindings.h>
 #include <session/savefile.h>
 
 namespace JedTool {
@@ -47,15 +47,15 @@ void printJson(const QJsonDocument& document)
 }
 
 // The objects that the command line names; false, which is told, if there are none.
-bool readScopes(const Invocation& invocation, QVector<Session::RuleScope>* scopes)
+bool readScopes(const Invocation& invocation, QVector<RuleChecking::RuleScope>* scopes)
 {
     if (invocation.isSet(QLatin1String(OBJECTS.name))) {
         const QString path = invocation.value(QLatin1String(OBJECTS.name));
         QByteArray content;
         QString error;
-        scopes->append(Session::RuleScope());
+        scopes->append(RuleChecking::RuleScope());
         if (Session::readFile(path, &content, &error) &&
-            Session::readRuleObjects(Session::decodedText(content), &scopes->first(), &error))
+            RuleChecking::readRuleObjects(Session::decodedText(content), &scopes->first(), &error))
             return true;
         printError(Texts::tr("jedtool: %1: %2").arg(path, error));
         printError(Texts::tr("Next: jedtool rules check --help"));
@@ -69,14 +69,14 @@ bool readScopes(const Invocation& invocation, QVector<Session::RuleScope>* scope
         namedPlugin(host, invocation.value(QLatin1String(PLUGIN.name)));
     if (!factory)
         return false;
-    *scopes = Session::pluginRuleScopes(factory, invocation.arguments.first());
+    *scopes = RuleChecking::pluginRuleScopes(factory, invocation.arguments.first());
     if (scopes->isEmpty())
         printError(Texts::tr("jedtool: the plug-in %1 has no rules on the receivers of the installation")
                        .arg(factory->getName()));
     return !scopes->isEmpty();
 }
 
-QString summary(const QString& path, const Session::RuleCheck& result)
+QString summary(const QString& path, const RuleChecking::RuleCheck& result)
 {
     const QString tried =
         Texts::tr("rules: %1, runs: %2").arg(QString::number(result.rules), QString::number(result.runs));
@@ -88,10 +88,10 @@ QString summary(const QString& path, const Session::RuleCheck& result)
 ExitCode check(const Invocation& invocation)
 {
     const QString path = invocation.arguments.first();
-    QVector<Session::RuleScope> scopes;
+    QVector<RuleChecking::RuleScope> scopes;
     if (!readScopes(invocation, &scopes))
         return USAGE;
-    const Session::RuleCheck result = Session::checkRules(path, scopes);
+    const RuleChecking::RuleCheck result = RuleChecking::checkRules(path, scopes);
     if (invocation.isJson) {
         printJson(QJsonDocument(QJsonObject{{QStringLiteral("file"), path},
                                             {QStringLiteral("rules"), result.rules},
@@ -109,10 +109,10 @@ ExitCode check(const Invocation& invocation)
 ExitCode explain(const Invocation& invocation)
 {
     if (invocation.isJson)
-        printJson(QJsonDocument(Session::ruleFindingsJson()));
+        printJson(QJsonDocument(RuleChecking::ruleFindingsJson()));
     else
-        print(invocation.isSet(QStringLiteral("markdown")) ? Session::ruleFindingsMarkdown()
-                                                           : Session::ruleFindingsText());
+        print(invocation.isSet(QStringLiteral("markdown")) ? RuleChecking::ruleFindingsMarkdown()
+                                                           : RuleChecking::ruleFindingsText());
     return CLEAN;
 }
 } // namespace

@@ -1,22 +1,22 @@
 #include <QDirIterator>
 #include <QMetaMethod>
 #include <QMetaProperty>
+#include <rulecheck/rulecheck.h>
+#include <rulecheck/rulefindings.h>
+#include <rulecheck/rulerecorder.h>
 #include <scriptableboolean.h>
 #include <scriptablenumericfloat.h>
 #include <scriptablenumericint.h>
 #include <scriptablenumericint64.h>
 #include <scriptableselection.h>
 #include <scriptablestring.h>
-#include <session/rulecheck.h>
-#include <session/rulefindings.h>
-#include <session/rulerecorder.h>
 #include <session/savefile.h>
 #include <support/testmain.h>
 
+using RuleChecking::RuleCheck;
+using RuleChecking::RuleObject;
+using RuleChecking::RuleScope;
 using Session::Finding;
-using Session::RuleCheck;
-using Session::RuleObject;
-using Session::RuleScope;
 
 // Scripts of tests/data/rules: those in "correct" give no finding, those in "wrong" the ones of its findings.txt.
 
@@ -41,8 +41,8 @@ QVector<RuleScope> objectsFor(const QString& script)
     const QString own = QString(script).replace(".js", ".txt");
     RuleScope scope;
     QString error;
-    if (!Session::readRuleObjects(textOf(QFile::exists(own) ? own : RULES + QString("objects.txt")), &scope,
-                                  &error))
+    if (!RuleChecking::readRuleObjects(textOf(QFile::exists(own) ? own : RULES + QString("objects.txt")),
+                                       &scope, &error))
         qFatal("%s", qPrintable(error));
     return {scope};
 }
@@ -113,7 +113,7 @@ void TstRuleCheck::correctScripts()
 {
     QFETCH(QString, script);
     const QString path = RULES + QString("correct/") + script;
-    const RuleCheck check = Session::checkRules(path, objectsFor(path));
+    const RuleCheck check = RuleChecking::checkRules(path, objectsFor(path));
     QCOMPARE(linesOf(check.findings), QStringList());
     QVERIFY(check.rules > 0);
     QVERIFY(check.runs > 1);
@@ -135,7 +135,7 @@ void TstRuleCheck::wrongScripts()
     QFETCH(QString, script);
     QFETCH(QStringList, findings);
     const QString path = RULES + QString("wrong/") + script;
-    const RuleCheck check = Session::checkRules(path, objectsFor(path));
+    const RuleCheck check = RuleChecking::checkRules(path, objectsFor(path));
     findings.sort();
     QVERIFY2(codesOf(check) == findings, qPrintable(linesOf(check.findings).join('\n')));
 }
@@ -143,7 +143,7 @@ void TstRuleCheck::wrongScripts()
 void TstRuleCheck::scriptsAloneTellOfTheirObjects()
 {
     QFETCH(QString, script);
-    const RuleCheck check = Session::checkRules(RULES + QString("correct/") + script, {});
+    const RuleCheck check = RuleChecking::checkRules(RULES + QString("correct/") + script, {});
     QCOMPARE(linesOf(check.findings), QStringList());
     QVERIFY(check.notes.constFirst().text.startsWith("only the script itself tells"));
 }
@@ -159,7 +159,7 @@ void TstRuleCheck::scriptsThatEndAnywhere()
         for (int size = 0; size < whole.size(); size += STRIDE) {
             const QByteArray cut = whole.left(size);
             QVERIFY(Session::saveFile(path, cut, nullptr));
-            for (const Finding& finding : Session::checkRules(path, {}).findings) {
+            for (const Finding& finding : RuleChecking::checkRules(path, {}).findings) {
                 QVERIFY2(finding.line >= 0 && finding.line <= cut.count('\n') + 1, cut.constData());
                 QVERIFY2(!finding.text.isEmpty() && !finding.advice.isEmpty(), cut.constData());
             }
@@ -194,7 +194,7 @@ void TstRuleCheck::whatWasNotTriedIsSaid()
     QTemporaryDir folder;
     const QString path = folder.filePath("rules.js");
     QVERIFY(Session::saveFile(path, text.toUtf8(), nullptr));
-    const RuleCheck check = Session::checkRules(path, objectsFor(path));
+    const RuleCheck check = RuleChecking::checkRules(path, objectsFor(path));
     QCOMPARE(linesOf(check.findings), QStringList());
     QStringList notes;
     for (const Finding& note : check.notes) {
@@ -232,7 +232,7 @@ void TstRuleCheck::listsOfObjects()
     QFETCH(QString, error);
     RuleScope scope;
     QString told;
-    QCOMPARE(Session::readRuleObjects(text, &scope, &told), error.isEmpty());
+    QCOMPARE(RuleChecking::readRuleObjects(text, &scope, &told), error.isEmpty());
     QCOMPARE(told, error);
 }
 
@@ -244,13 +244,13 @@ void TstRuleCheck::everyFindingHasAScript()
             shown.insert(code.section('@', 0, 0));
     }
     QStringList without;
-    for (const Session::RuleFindingKind& kind : Session::ruleFindingKinds()) {
+    for (const RuleChecking::RuleFindingKind& kind : RuleChecking::ruleFindingKinds()) {
         if (!shown.remove(kind.code()))
             without.append(kind.code());
     }
     QCOMPARE(without, QStringList());
     QCOMPARE(QStringList(shown.values()), QStringList());
-    const RuleCheck missing = Session::checkRules(RULES + QString("none.js"), {});
+    const RuleCheck missing = RuleChecking::checkRules(RULES + QString("none.js"), {});
     QCOMPARE(codesOf(missing), QStringList("R01@0"));
 }
 
@@ -279,19 +279,19 @@ void TstRuleCheck::recordersAreLikeTheObjects()
         expected.append(QString::fromLatin1(object->property(i).name()));
     for (int i = object->methodOffset(); i < object->methodCount(); ++i)
         expected.append(QString::fromLatin1(object->method(i).name()));
-    QStringList members = Session::RuleRecorder::members(RuleObject::Kind(kind));
+    QStringList members = RuleChecking::RuleRecorder::members(RuleObject::Kind(kind));
     expected.sort();
     members.sort();
     QCOMPARE(members, expected);
-    QCOMPARE("JEDVEPLUGIN::" + Session::RuleRecorder::className(RuleObject::Kind(kind)),
+    QCOMPARE("JEDVEPLUGIN::" + RuleChecking::RuleRecorder::className(RuleObject::Kind(kind)),
              QString::fromLatin1(object->className()));
 }
 
 void TstRuleCheck::theGuideHasTheTable()
 {
-    QVERIFY2(
-        textOf(JED_SOURCE_DIR "/docs/integrator-guide/rules.md").contains(Session::ruleFindingsMarkdown()),
-        "put what \"jedtool rules findings --markdown\" prints into the guide");
+    QVERIFY2(textOf(JED_SOURCE_DIR "/docs/integrator-guide/rules.md")
+                 .contains(RuleChecking::ruleFindingsMarkdown()),
+             "put what \"jedtool rules findings --markdown\" prints into the guide");
 }
 
 JED_TEST_MAIN(TstRuleCheck)

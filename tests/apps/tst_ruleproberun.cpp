@@ -1,4 +1,5 @@
 #include <QDir>
+#include <rulecheck/ruleproberun.h>
 #include <ruleobjectmanager.h>
 #include <ruletimelimit.h>
 #include <scriptableboolean.h>
@@ -7,14 +8,13 @@
 #include <scriptablenumericint64.h>
 #include <scriptableselection.h>
 #include <scriptablestring.h>
-#include <session/ruleproberun.h>
 #include <session/savefile.h>
 #include <support/testmain.h>
 #include <values/tree.h>
 
 using namespace JEDVEPLUGIN;
-using Session::RuleObject;
-using Session::RuleScope;
+using RuleChecking::RuleObject;
+using RuleChecking::RuleScope;
 
 // Recorders end up with what the real objects end up with, whatever a script does to them: each rule of each script of
 // tests/data/rules is run once by a probe and once by the rule engine.
@@ -132,10 +132,10 @@ QStringList real(const QString& file, const QVector<RuleObject>& objects, const 
     return result;
 }
 
-QStringList probed(const Session::RuleScript& script, const QVector<RuleObject>& objects,
+QStringList probed(const RuleChecking::RuleScript& script, const QVector<RuleObject>& objects,
                    const QString& function)
 {
-    Session::RuleProbeRun run(script, objects, TIME_LIMIT);
+    RuleChecking::RuleProbeRun run(script, objects, TIME_LIMIT);
     run.run(function);
     QStringList result;
     for (const RuleObject& object : run.objects())
@@ -171,9 +171,9 @@ void TstRuleProbeRun::recordersEndLikeTheObjects()
     RuleScope scope;
     QVERIFY(Session::readFile(file, &content, &error));
     QVERIFY(Session::readFile(RULES + QString("objects.txt"), &list, &error));
-    QVERIFY(Session::readRuleObjects(QString::fromUtf8(list), &scope, &error));
+    QVERIFY(RuleChecking::readRuleObjects(QString::fromUtf8(list), &scope, &error));
     const QString code = QString::fromUtf8(content);
-    const Session::RuleScript script{file, code, Session::RuleOutline(code)};
+    const RuleChecking::RuleScript script{file, code, RuleChecking::RuleOutline(code)};
     for (int trigger = 0; trigger < scope.objects.size(); ++trigger) {
         const QString function = scope.objects.at(trigger).ruleFunction;
         if (!script.outline.globals().contains(function))

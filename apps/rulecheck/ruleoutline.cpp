@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 const QSet<QString> WORDS_BEFORE_BLOCKS{"else", "do", "try", "finally"};
@@ -323,4 +323,4 @@ int RuleOutline::find(int line, const QString& text) const
     return -1;
 }
 
-} // namespace Session
+} // namespace RuleChecking

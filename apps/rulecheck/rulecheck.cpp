@@ -4,12 +4,12 @@
 #include "rulelanguage.h"
 #include "ruleprobe.h"
 #include "rulestatic.h"
-#include "savefile.h"
+#include <session/savefile.h>
 
 #include <algorithm>
 #include <QtScript/QScriptEngine>
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 Finding toFinding(const RuleObservation& observation, const QString& file)
@@ -178,7 +178,7 @@ RuleCheck checkRules(const QString& file, const QVector<RuleScope>& scopes)
     RuleCheck result;
     QByteArray content;
     QString reason;
-    if (!readFile(file, &content, &reason)) {
+    if (!Session::readFile(file, &content, &reason)) {
         result.findings.append(toFinding({RuleFinding::NOT_READ, 0, 0, QString(), reason, QString()}, file));
         return result;
     }
@@ -195,4 +195,4 @@ RuleCheck checkRules(const QString& file, const QVector<RuleScope>& scopes)
     return result;
 }
 
-} // namespace Session
+} // namespace RuleChecking

@@ -7,7 +7,7 @@
 #include <QtScript/QScriptEngine>
 #include <QtScript/QScriptString>
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 enum Role { VALUE, MIN, MAX, STEP, STATE, METHOD };
@@ -443,4 +443,4 @@ void RuleRecorder::found(RuleFinding number, int index, uint member, const QStri
     m_listener->found(number, index, QLatin1String(MEMBERS[member].name), text);
 }
 
-} // namespace Session
+} // namespace RuleChecking

@@ -5,7 +5,7 @@
 
 #include <QPair>
 
-namespace Session {
+namespace RuleChecking {
 
 /// A rule script that the engine can read.
 struct RuleScript
@@ -87,4 +87,4 @@ private:
     bool m_isEndless = false;
 };
 
-} // namespace Session
+} // namespace RuleChecking

@@ -5,7 +5,7 @@
 #include <QProcess>
 #include <QStringList>
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 const char* const RULE_SUFFIX = "_changed";
@@ -198,4 +198,4 @@ bool readRuleObjects(const QString& text, RuleScope* scope, QString* error)
     return true;
 }
 
-} // namespace Session
+} // namespace RuleChecking

@@ -7,7 +7,7 @@
 #include <QtScript/QScriptEngine>
 #include <QtScript/QScriptEngineAgent>
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 constexpr int EVENT_INTERVAL = 20; // ms
@@ -183,4 +183,4 @@ void RuleProbeRun::observe(RuleFinding number, int token, int line, const QStrin
     m_observations.append({number, place, column, subject, text, advice});
 }
 
-} // namespace Session
+} // namespace RuleChecking

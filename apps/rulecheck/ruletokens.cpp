@@ -2,7 +2,7 @@
 
 #include <QSet>
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 // Longer ones before those that they begin with.
@@ -214,4 +214,4 @@ bool isRuleKeyword(const QString& word)
     return keywords().contains(word);
 }
 
-} // namespace Session
+} // namespace RuleChecking

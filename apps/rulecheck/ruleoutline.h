@@ -5,7 +5,7 @@
 #include <QSet>
 #include <QStringList>
 
-namespace Session {
+namespace RuleChecking {
 
 /// What a rule script declares and uses, found without running it. Good for every script that the engine takes; of
 /// others, only tokens and brackets are.
@@ -86,4 +86,4 @@ private:
     int m_loneBracket = -1;
 };
 
-} // namespace Session
+} // namespace RuleChecking

@@ -1,6 +1,6 @@
 #include "pluginrules.h"
 
-#include "resourcereport.h"
+#include <session/resourcereport.h>
 
 #include <algorithm>
 #include <jedsubsettingfactory.h>
@@ -19,7 +19,7 @@ using JEDVEPLUGIN::ResourceDescription;
 using JEDVEPLUGIN::RuleObjectManager;
 using JEDVEPLUGIN::RuleRegistration;
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 constexpr int MAX_LEVELS = 4;
@@ -152,7 +152,7 @@ QVector<RuleScope> pluginRuleScopes(JEDSubSettingFactory* factory, const QString
             continue;
         addChildren(factory, subjob, factory->supportedTypes(true).value(0), 0);
         RuleScope scope;
-        scope.name = resourceKey(*resource);
+        scope.name = Session::resourceKey(*resource);
         for (const RuleRegistration& registration : collector.registrations(QFileInfo(file).fileName())) {
             RuleObject object;
             if (toObject(registration, &object))
@@ -165,4 +165,4 @@ QVector<RuleScope> pluginRuleScopes(JEDSubSettingFactory* factory, const QString
     return result;
 }
 
-} // namespace Session
+} // namespace RuleChecking

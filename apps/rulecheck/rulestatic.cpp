@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <jobxml/suggestion.h>
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 const char* const RULE_SUFFIX = "_changed";
@@ -300,4 +300,4 @@ QStringList looseFunctions(const RuleOutline& outline, const RuleScope& scope)
     return result;
 }
 
-} // namespace Session
+} // namespace RuleChecking

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <ruletimelimit.h>
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 constexpr int TIME_LIMIT = 1000; // ms, unless the process has one
@@ -169,4 +169,4 @@ bool RuleProbe::hasRule(const RuleObject& object) const
     return m_script.outline.globals().contains(object.ruleFunction);
 }
 
-} // namespace Session
+} // namespace RuleChecking

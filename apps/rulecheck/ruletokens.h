@@ -3,7 +3,7 @@
 #include <QString>
 #include <QVector>
 
-namespace Session {
+namespace RuleChecking {
 
 /// A word or sign of a rule script. Comments and blanks are none.
 struct RuleToken
@@ -35,4 +35,4 @@ QVector<RuleToken> ruleTokens(const QString& script);
 /// Whether the language keeps the word for itself.
 bool isRuleKeyword(const QString& word);
 
-} // namespace Session
+} // namespace RuleChecking

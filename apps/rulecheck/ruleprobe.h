@@ -2,7 +2,7 @@
 
 #include "ruleproberun.h"
 
-namespace Session {
+namespace RuleChecking {
 
 /// Tries the rules of a script: each once per value of its trigger, and what it sets off after it.
 class RuleProbe
@@ -44,4 +44,4 @@ private:
     int m_runCount = 0;
 };
 
-} // namespace Session
+} // namespace RuleChecking

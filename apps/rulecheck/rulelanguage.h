@@ -2,7 +2,7 @@
 
 #include "ruleoutline.h"
 
-namespace Session {
+namespace RuleChecking {
 
 /// Syntax that the engine of rule scripts does not know.
 struct LaterSyntax
@@ -26,4 +26,4 @@ bool isForeignBuiltin(const QString& name);
 /// \param line,column  the place that the engine names; become the place to look at
 QString syntaxFault(const RuleOutline& outline, int* line, int* column);
 
-} // namespace Session
+} // namespace RuleChecking

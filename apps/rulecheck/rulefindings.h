@@ -1,8 +1,11 @@
 #pragma once
 
-#include "finding.h"
+#include <session/finding.h>
 
-namespace Session {
+namespace RuleChecking {
+
+using Session::Finding;
+using Session::Findings;
 
 /// What the check of a rule script can find. The numbers are printed and looked up by script authors: a number that is
 /// no longer used is not given again.
@@ -63,4 +66,4 @@ QString ruleFindingsText();
 QString ruleFindingsMarkdown();
 QJsonArray ruleFindingsJson();
 
-} // namespace Session
+} // namespace RuleChecking

@@ -1,6 +1,6 @@
 #include "rulelanguage.h"
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 struct LaterSign
@@ -260,4 +260,4 @@ QString syntaxFault(const RuleOutline& outline, int* line, int* column)
     return QStringLiteral("the script ends too early");
 }
 
-} // namespace Session
+} // namespace RuleChecking

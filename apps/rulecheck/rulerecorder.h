@@ -8,7 +8,7 @@
 
 class QScriptContext;
 
-namespace Session {
+namespace RuleChecking {
 
 /// Is told what a script does to its objects.
 class IRuleListener
@@ -69,4 +69,4 @@ private:
     QVector<bool> m_isCounted;                   // Objects whose items the script counted.
 };
 
-} // namespace Session
+} // namespace RuleChecking

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QVector>
 
-namespace Session {
+namespace RuleChecking {
 
 /// A scriptable object as the check of rules plays it: what its value holds, without a value. A plain value.
 struct RuleObject
@@ -67,4 +67,4 @@ struct RuleScope
 /// \param error  receives the reason with its line
 bool readRuleObjects(const QString& text, RuleScope* scope, QString* error);
 
-} // namespace Session
+} // namespace RuleChecking

@@ -4,7 +4,7 @@
 #include <QJsonObject>
 #include <QVector>
 
-namespace Session {
+namespace RuleChecking {
 
 namespace {
 const QVector<RuleFindingKind> KINDS{
@@ -160,4 +160,4 @@ QJsonArray ruleFindingsJson()
     return result;
 }
 
-} // namespace Session
+} // namespace RuleChecking

@@ -2,7 +2,7 @@
 
 #include "ruleproberun.h"
 
-namespace Session {
+namespace RuleChecking {
 
 /// What is found in a rule script by reading it.
 /// \param scopes            the objects of the settings that it is for
@@ -17,4 +17,4 @@ RuleScope guessedScope(const RuleOutline& outline);
 /// Functions of the script that neither an object nor the script itself calls.
 QStringList looseFunctions(const RuleOutline& outline, const RuleScope& scope);
 
-} // namespace Session
+} // namespace RuleChecking
