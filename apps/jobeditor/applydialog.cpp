@@ -64,6 +64,7 @@ ApplyDialog::ApplyDialog(const Session::JobSession& session, ISubSetting* source
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(all, &QAbstractButton::clicked, this, &ApplyDialog::checkAll);
     layout()->addWidget(buttons);
+    resize(420, 440);
     m_targetList->setFocus();
 }
 
