@@ -1,10 +1,10 @@
 #include "frequencysource.h"
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 
 // Bookmarks in a JSON object under their names, with numbers for frequency, bandwidth (Hz) and mode.
 
@@ -29,9 +29,12 @@ struct NamePlace
 {
     QString name;
     int line = 0;
+    int begin = 0; // Of its literal.
+    int length = 0;
+    QString key; // The name; another one if the same name follows.
 };
 
-// Goes through text that has been parsed without a fault.
+// Goes through any text; what it finds is of use if the text has no fault.
 class NameFinder
 {
 public:
@@ -75,7 +78,7 @@ private:
         if (m_level == 1)
             m_isWithin = name == BOOKMARKS;
         else if (m_level == BOOKMARK_LEVEL && m_isWithin)
-            m_places.append({name, m_line});
+            m_places.append({name, m_line, begin, literal.size(), name});
     }
 
     const QString& m_text;
@@ -136,10 +139,33 @@ bool isLike(const QString& beginning)
     return beginning.startsWith(QLatin1Char('{'));
 }
 
+// Gives names that come again keys of their own: Qt's parser would keep the last one only, and not free the others.
+QString withUniqueKeys(const QString& text, QVector<NamePlace>* places)
+{
+    QSet<QString> seen;
+    for (int i = places->size(); i-- > 0;) {
+        NamePlace& place = (*places)[i];
+        if (seen.contains(place.name))
+            place.key = QChar(1) + QString::number(i);
+        seen.insert(place.name);
+    }
+    QString result;
+    int done = 0;
+    for (int i = 0; i < places->size(); ++i) {
+        const NamePlace& place = places->at(i);
+        if (place.key == place.name)
+            continue;
+        result += text.midRef(done, place.begin - done) + QStringLiteral("\"\\u0001%1\"").arg(i);
+        done = place.begin + place.length;
+    }
+    return result + text.midRef(done);
+}
+
 void read(const QString& text, Session::EntryCollector* collector)
 {
+    QVector<NamePlace> places = NameFinder(text).find();
     QJsonParseError error;
-    const QByteArray bytes = text.toUtf8();
+    const QByteArray bytes = withUniqueKeys(text, &places).toUtf8();
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     const QJsonValue bookmarks = document.object().value(BOOKMARKS);
     if (document.isNull()) {
@@ -151,15 +177,11 @@ void read(const QString& text, Session::EntryCollector* collector)
         collector->fail(0, Texts::tr("it has no object \"bookmarks\""));
         return;
     }
-    const QVector<NamePlace> places = NameFinder(text).find();
-    QHash<QString, int> last;
-    for (int i = 0; i < places.size(); ++i)
-        last.insert(places.at(i).name, i);
-    const QJsonObject byName = bookmarks.toObject();
+    const QJsonObject byKey = bookmarks.toObject();
     for (int i = 0; i < places.size(); ++i) {
         const NamePlace& place = places.at(i);
-        Session::SourceEntry entry = toEntry(place, byName.value(place.name), collector);
-        if (last.value(place.name) != i)
+        Session::SourceEntry entry = toEntry(place, byKey.value(place.key), collector);
+        if (place.key != place.name)
             entry.fault = Texts::tr("another bookmark of this name follows");
         if (!collector->take(entry, i, places.size()))
             return;

@@ -612,6 +612,9 @@ void TstFrequencyImport::hostileContent_data()
     QTest::newRow("levels of JSON") << "sdrpp"
                                     << "{\"bookmarks\":" + QByteArray("{\"a\":").repeated(100000)
                                     << "it is damaged: too deeply nested document";
+    QTest::newRow("one name") << "sdrpp"
+                              << "{\"bookmarks\":{" + QByteArray("\"a\":1,").repeated(90000) + "\"a\":1}}"
+                              << QString();
     QTest::newRow("NUL") << "gqrx" << QByteArray(GQRX_HEADER) + QByteArray(4, '\0')
                          << "it is no text in UTF-8";
     QTest::newRow("other root") << "sdrsharp" << QByteArray("<Job/>")
