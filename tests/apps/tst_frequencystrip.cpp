@@ -101,8 +101,7 @@ bool TstFrequencyStrip::open(const QString& name)
 {
     Session::Findings findings;
     const bool isOpen = m_session->open(EXAMPLES + name + ".xml", &findings);
-    QTest::qWait(1);
-    QCoreApplication::processEvents();
+    QTest::qWait(20); // For a timer without a delay, and the layout after it.
     return isOpen;
 }
 
