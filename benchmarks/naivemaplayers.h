@@ -63,11 +63,14 @@ public:
     }
 
     QVector<Id> m_deleted; // By the user.
+    double m_west = 0;     // Of the area that is visible.
 
 protected:
     void on_MST_EVENT_GROUP_DELETE(const MST_EVENT_GROUP_DELETE& event) override { forget(event.id); }
     void on_MST_EVENT_LAYER_DELETE(const MST_EVENT_LAYER_DELETE& event) override { forget(event.id); }
     void on_MST_EVENT_SHAPE_DELETE(const MST_EVENT_SHAPE_DELETE& event) override { forget(event.id); }
+
+    void on_MST_EVENT_VISIBLE_WW(const MST_EVENT_VISIBLE_WW& event) override { m_west = event.first.x; }
 
 private:
     enum Kind { LAYER, GROUP, SHAPE };

@@ -21,10 +21,9 @@ QString valueText(const QVariant& value)
 void MapObjects::insert(int id, MapViewLayerManager::enObjType kind, int parent,
                         MapViewLayerManager::tObjectID owner, const QString& name)
 {
-    m_entries.insert(id, {kind, parent, owner, name, {}});
-    const auto above = m_entries.find(parent);
-    if (above != m_entries.end())
-        above->children.insert(id);
+    m_entries.insert(id, {kind, parent, owner, name});
+    if (parent != 0)
+        m_children[parent].insert(id);
     if (kind == MapViewLayerManager::OBJ_LAYER)
         m_layers.insert(name, id);
 }
@@ -36,15 +35,19 @@ void MapObjects::remove(int id)
         return;
     if (entry->kind == MapViewLayerManager::OBJ_LAYER && m_layers.value(entry->name) == id)
         m_layers.remove(entry->name);
-    const auto above = m_entries.find(entry->parent);
-    if (above != m_entries.end())
-        above->children.remove(id);
+    const auto siblings = m_children.find(entry->parent);
+    if (siblings != m_children.end()) {
+        siblings->remove(id);
+        if (siblings->isEmpty())
+            m_children.erase(siblings);
+    }
     m_entries.remove(id);
 }
 
 void MapObjects::clear()
 {
     m_entries.clear();
+    m_children.clear();
     m_layers.clear();
 }
 

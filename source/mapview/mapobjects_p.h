@@ -17,7 +17,6 @@ public:
         int parent = 0;
         MapViewLayerManager::tObjectID owner = 0; // 0 for a layer.
         QString name;                             // Of a layer.
-        QSet<int> children;
     };
 
     void insert(int id, MapViewLayerManager::enObjType kind, int parent, MapViewLayerManager::tObjectID owner,
@@ -27,11 +26,14 @@ public:
     void clear();
     /// Null if there is none.
     const Entry* find(int id) const;
+    /// What was put below an object, also when that object itself has gone.
+    QSet<int> children(int id) const { return m_children.value(id); }
     /// 0 if no layer of that name is drawn.
     int layer(const QString& name) const { return m_layers.value(name); }
 
 private:
     QHash<int, Entry> m_entries;
+    QHash<int, QSet<int>> m_children; // By parent; without those of no parent.
     QHash<QString, int> m_layers;
 };
 

@@ -208,9 +208,12 @@ void MapViewLayerManager::deleteLayer(const QString& layer)
     const int mapId = m_data->mapObjects.layer(layer);
     if (mapId == 0)
         return;
-    const QSet<int> groups = m_data->mapObjects.find(mapId)->children;
-    for (const int group : groups)
-        removeObject(m_data->mapObjects.find(group)->owner);
+    const QSet<int> groups = m_data->mapObjects.children(mapId);
+    for (const int id : groups) {
+        // Two of them may belong to one object: the group of a shape that the user deleted stays.
+        if (const MapObjects::Entry* const group = m_data->mapObjects.find(id))
+            removeObject(group->owner);
+    }
     deleteMapViewObj(mapId, DELETE_LAYER);
     m_data->mapObjects.remove(mapId);
 }
@@ -402,10 +405,9 @@ int MapViewLayerManager::drawShape(int group, tObjectID id)
 void MapViewLayerManager::eraseFromMap(tObjectID id)
 {
     ObjectRecord& record = m_data->objects[id];
-    const MapObjects::Entry* const group = m_data->mapObjects.find(record.mapId);
-    if (!group)
+    if (!m_data->mapObjects.find(record.mapId))
         return;
-    const QSet<int> shapes = group->children;
+    const QSet<int> shapes = m_data->mapObjects.children(record.mapId);
     deleteMapViewObj(record.mapId, DELETE_GROUP);
     for (const int shape : shapes) {
         deleteMapViewObj(shape, DELETE_SHAPE);
@@ -423,10 +425,8 @@ void MapViewLayerManager::handleDeletion(int mapId)
         emit objectDeleted(id);
         m_data->drop(id);
     }
-    const MapObjects::Entry* const entry = m_data->mapObjects.find(mapId);
-    if (!entry)
-        return;
-    const QSet<int> children = entry->children;
+    // Also below an object that is not known any more: a layer may have been deleted on both sides at once.
+    const QSet<int> children = m_data->mapObjects.children(mapId);
     for (const int child : children)
         handleDeletion(child);
     m_data->mapObjects.remove(mapId);

@@ -65,6 +65,8 @@ private slots:
     void oneUserPolygonAtATime();
     void groupIsDeletedOnTheMap();
     void shapeIsDeletedOnTheMap();
+    void layerOfAnObjectDrawnTwiceIsDeleted();
+    void layerIsDeletedOnBothSides();
     void layerIsDeletedOnTheMap();
     void visibleAreaIsKept();
     void placesThatAreNoNumbersAreIgnored_data();
@@ -546,6 +548,40 @@ void TstMapViewLayerManager::shapeIsDeletedOnTheMap()
     m_map->send(MAP_GROUP_DELETED, lastId(MAP_CREATE_GROUP));
     QTest::qWait(50);
     QCOMPARE(deleted.size(), 1);
+}
+
+// The group of a shape that the user deleted stays, and its object may be drawn anew in the same layer.
+void TstMapViewLayerManager::layerOfAnObjectDrawnTwiceIsDeleted()
+{
+    QSignalSpy deleted(&manager(), SIGNAL(objectDeleted(JEDVEPLUGIN::MapViewLayerManager::tObjectID)));
+    const Id id = 4000000;
+    for (int i = 0; i < 4; ++i) {
+        manager().updateRect(id, "n", QRectF(0, 0, 1, 1), "");
+        lines();
+        if (i == 3)
+            break;
+        m_map->send(MAP_SHAPE_DELETED, lastId(MAP_CREATE_RECT));
+        QTRY_COMPARE(deleted.size(), i + 1);
+    }
+    manager().deleteLayer("");
+    QCOMPARE(lines(), QStringList({"delete  172", "delete  173", "delete  171"}));
+    QCOMPARE(int(manager().getObjectType(id)), 0);
+    QCOMPARE(deleted.size(), 3);
+}
+
+void TstMapViewLayerManager::layerIsDeletedOnBothSides()
+{
+    QSignalSpy deleted(&manager(), SIGNAL(objectDeleted(JEDVEPLUGIN::MapViewLayerManager::tObjectID)));
+    const Id id = manager().addRect("both", "n", QRectF(0, 0, 1, 1), "");
+    lines();
+    const int layer = lastId(MAP_CREATE_LAYER);
+    m_map->send(MAP_SHAPE_DELETED, lastId(MAP_CREATE_RECT));
+    QTRY_COMPARE(deleted.size(), 1);
+    manager().deleteLayer("both");
+    manager().updateRect(id, "n", QRectF(0, 0, 1, 1), "");
+    m_map->send(MAP_LAYER_DELETED, layer);
+    QTRY_COMPARE(deleted.size(), 2);
+    QCOMPARE(deleted[1][0].toULongLong(), id);
 }
 
 void TstMapViewLayerManager::layerIsDeletedOnTheMap()
