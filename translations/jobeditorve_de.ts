@@ -5878,6 +5878,10 @@ beantwortet: %3
         <source>dock NAME FILE (job editor)</source>
         <translation>dock NAME DATEI (Auftragseditor)</translation>
     </message>
+    <message>
+        <source>window summary|apply|plugins FILE (job editor)</source>
+        <translation>window summary|apply|plugins DATEI (Auftragseditor)</translation>
+    </message>
 </context>
 <context>
     <name>Session::ScenarioRunner</name>

@@ -8,6 +8,7 @@
 
 #include <isubsetting.h>
 #include <jedcommonhelper.h>
+#include <QAction>
 #include <QApplication>
 #include <QBuffer>
 #include <QComboBox>
@@ -18,6 +19,7 @@
 #include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QTimer>
 #include <resourcedescription.h>
 #include <resourceselectiondialog.h>
 #include <session/fieldplaces.h>
@@ -85,6 +87,23 @@ public:
         dialog.readFile(list);
         dialog.show();
         return write(&dialog, file);
+    }
+
+    bool drawWindow(const QString& name, JobSession::Setting* current, const QString& file) override
+    {
+        auto* const action = m_window->findChild<QAction*>(name + QStringLiteral("Action"));
+        m_window->setCurrentSetting(current);
+        if (!action || !action->isEnabled())
+            return false;
+        bool isWritten = false;
+        QTimer::singleShot(0, m_window, [&isWritten, &file] {
+            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            isWritten = dialog && write(dialog, file);
+            if (dialog)
+                dialog->reject();
+        });
+        action->trigger();
+        return isWritten;
     }
 
 private:

@@ -60,11 +60,11 @@ void EditorWindow::buildFileMenu()
                  << menu->addAction(tr("Save &as..."), this, &EditorWindow::saveAs, QKeySequence::SaveAs)
                  << menu->addAction(tr("Re&vert"), this, &EditorWindow::revert);
     menu->addSeparator();
-    m_jobActions << menu->addAction(
-                        tr("Su&mmary..."), this,
-                        [this] {
-                            PageWindow(tr("Summary of the job"), summary(), tr("summary"), this).exec();
-                        })
+    QAction* const summaryAction = menu->addAction(tr("Su&mmary..."), this, [this] {
+        PageWindow(tr("Summary of the job"), summary(), tr("summary"), this).exec();
+    });
+    summaryAction->setObjectName(QStringLiteral("summaryAction"));
+    m_jobActions << summaryAction
                  << menu->addAction(
                         tr("&Print..."), this, [this] { PageWindow::print(summary(), this); },
                         QKeySequence::Print);
@@ -97,6 +97,7 @@ void EditorWindow::buildEditMenu()
         << m_settingMenu->addAction(
                tr("Move do&wn"), this, [this] { moveCurrent(1); }, QKeySequence(Qt::ALT + Qt::Key_Down))
         << m_settingMenu->addAction(tr("Appl&y these settings to..."), this, &EditorWindow::applyToOthers);
+    m_settingActions.last()->setObjectName(QStringLiteral("applyAction"));
     m_changeActions << m_settingMenu->addAction(tr("&Import..."), this, &EditorWindow::importList,
                                                 QKeySequence(Qt::CTRL + Qt::Key_I));
     m_tree->setRowMenu(m_settingMenu);
@@ -339,7 +340,8 @@ void EditorWindow::buildHelpMenu()
     connect(manuals, &QMenu::aboutToShow, this, [this, manuals] { fillManualMenu(manuals); });
     menu->addAction(QWhatsThis::createAction(this));
     menu->addSeparator();
-    menu->addAction(tr("&Plug-ins..."), this, [this] { PluginPage(*m_host, this).exec(); });
+    menu->addAction(tr("&Plug-ins..."), this, [this] { PluginPage(*m_host, this).exec(); })
+        ->setObjectName(QStringLiteral("pluginsAction"));
     menu->addAction(tr("&About..."), this, [this] { AboutDialog(*m_host, this).exec(); });
 }
 

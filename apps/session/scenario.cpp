@@ -32,6 +32,8 @@ const Verb VERBS[] = {
     {QLatin1String("map"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "map FILE (job editor)")},
     {QLatin1String("preview"), 2, 2,
      QT_TRANSLATE_NOOP("Session::Scenario", "preview LIST FILE (job editor)")},
+    {QLatin1String("window"), 2, 2,
+     QT_TRANSLATE_NOOP("Session::Scenario", "window summary|apply|plugins FILE (job editor)")},
     {QLatin1String("wait"), 1, 1, QT_TRANSLATE_NOOP("Session::Scenario", "wait SECONDS (job editor)")},
 };
 

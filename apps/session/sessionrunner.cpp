@@ -85,6 +85,11 @@ bool SessionRunner::Artist::drawImport(JobSession::Setting*, const QString&, con
     return false;
 }
 
+bool SessionRunner::Artist::drawWindow(const QString&, JobSession::Setting*, const QString&)
+{
+    return false;
+}
+
 SessionRunner::SessionRunner(JobSession* session, Artist* artist)
     : m_session(session)
     , m_artist(artist)
@@ -122,6 +127,7 @@ bool SessionRunner::runStep(const Scenario::Step& step)
         {QLatin1String("dock"), &SessionRunner::dock},
         {QLatin1String("map"), &SessionRunner::map},
         {QLatin1String("preview"), &SessionRunner::previewImport},
+        {QLatin1String("window"), &SessionRunner::window},
         {QLatin1String("wait"), &SessionRunner::wait},
     };
     m_line = step.line;
@@ -298,6 +304,12 @@ bool SessionRunner::previewImport(const QStringList& arguments)
         return refuse(Texts::tr("there is no sub-job that takes a list"));
     const QString file = arguments.value(1);
     return drawn(m_artist && m_artist->drawImport(target, path, file), file);
+}
+
+bool SessionRunner::window(const QStringList& arguments)
+{
+    const QString file = arguments.value(1);
+    return drawn(m_artist && m_artist->drawWindow(arguments.value(0), m_shown, file), file);
 }
 
 bool SessionRunner::wait(const QStringList& arguments)

@@ -32,9 +32,11 @@ public:
         virtual bool drawMap(JobSession::Setting* current, const QString& file) = 0;
         /// The dialog that shows a list of frequencies before a setting takes it over; nothing here.
         virtual bool drawImport(JobSession::Setting* target, const QString& list, const QString& file);
+        /// A window that the editor opens by its menu: "summary", "apply" or "plugins"; nothing here.
+        virtual bool drawWindow(const QString& name, JobSession::Setting* current, const QString& file);
     };
 
-    /// \param artist  for the steps "picture", "dialog", "dock", "map" and "preview"; null: there are no pictures. Not owned.
+    /// \param artist  for the steps "picture", "dialog", "dock", "map", "preview" and "window"; null: there are no pictures. Not owned.
     SessionRunner(JobSession* session, Artist* artist);
 
     /// Runs the steps up to the first that cannot be done.
@@ -62,6 +64,7 @@ private:
     bool dock(const QStringList& arguments);
     bool map(const QStringList& arguments);
     bool previewImport(const QStringList& arguments);
+    bool window(const QStringList& arguments);
     bool wait(const QStringList& arguments);
     bool drawn(bool isWritten, const QString& file);
     bool refuse(const QString& text, const QString& advice = QString());

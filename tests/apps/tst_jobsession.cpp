@@ -510,6 +510,10 @@ void TstJobSession::scenarioIsRun()
             m_drawn.append(file + " map " + current->getSettingType());
             return true;
         }
+        bool drawWindow(const QString& name, ISubSetting* current, const QString& file) override
+        {
+            return drawSetting(current, name + " " + file);
+        }
         QStringList m_drawn;
     } recorder;
     SessionRunner runner(m_session.get(), &recorder);
@@ -517,6 +521,7 @@ void TstJobSession::scenarioIsRun()
     QVERIFY(recorder.m_drawn.contains("start.png start"));
     QVERIFY(recorder.m_drawn.contains("tuner.png Tuner"));
     QVERIFY(recorder.m_drawn.contains("rules rules.png Scan"));
+    QVERIFY(recorder.m_drawn.contains("summary summary.png Scan"));
     QVERIFY(recorder.m_drawn.contains("dialog-hopper.png HT720 HopperDetector"));
     QCOMPARE(runner.files().size(), recorder.m_drawn.size() + 1);
     Findings findings;

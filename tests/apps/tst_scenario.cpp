@@ -80,11 +80,11 @@ void TstScenario::faultsNameTheLine_data()
         << "new Search\nsett a b"
         << "s:2: error: \"sett\" is no verb of a scenario\n"
            "    Verbs are new, open, add, set, select, expect, import, save, picture, "
-           "dialog, dock, map, preview, wait. Did you mean \"set\"?";
+           "dialog, dock, map, preview, window, wait. Did you mean \"set\"?";
     QTest::newRow("far from any verb") << "destroy"
                                        << "s:1: error: \"destroy\" is no verb of a scenario\n"
                                           "    Verbs are new, open, add, set, select, expect, import, save, "
-                                          "picture, dialog, dock, map, preview, wait.";
+                                          "picture, dialog, dock, map, preview, window, wait.";
     QTest::newRow("too few")
         << "\nset a"
         << "s:2: error: \"set\" does not go with 1 arguments\n    Write: set SET/FIELD VALUE";
@@ -146,6 +146,7 @@ void TstScenario::theHelpNamesEachVerb()
                                             "  dock NAME FILE (job editor)\n"
                                             "  map FILE (job editor)\n"
                                             "  preview LIST FILE (job editor)\n"
+                                            "  window summary|apply|plugins FILE (job editor)\n"
                                             "  wait SECONDS (job editor)\n"));
 }
 
