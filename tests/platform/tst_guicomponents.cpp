@@ -25,6 +25,8 @@
 #include <velmogui/parameterseteditor.h>
 #include <velmogui/valuecontrol.h>
 
+#include <limits>
+
 using JobXml::ParameterSetText;
 using VelmoGui::IGuiComponent;
 using VelmoGui::ParameterSetEditor;
@@ -57,7 +59,9 @@ Kind* addNumber(Node* node, const QString& id, double min, double max, double st
     auto* const number = new Kind;
     number->SetName(id);
     using Number = decltype(number->GetValue());
-    number->SetMinMax(Number(min), Number(max), Number(step));
+    // The greatest whole number is none that a double can be.
+    const Number limit = std::numeric_limits<Number>::max();
+    number->SetMinMax(Number(min), max < double(limit) ? Number(max) : limit, Number(step));
     number->SetValue(Number(value));
     node->AddChild(number, QString());
     return number;
