@@ -19,13 +19,6 @@ MapCanvas::MapCanvas(MapScene* scene, QWidget* parent)
 {
     setObjectName(QStringLiteral("MapCanvas"));
     setAccessibleName(tr("Map"));
-    setWhatsThis(tr(
-        "Mouse: a drag shifts the map, the wheel zooms. A click selects, with Ctrl adds; a drag with Shift "
-        "selects all inside, with Ctrl zooms there. What is selected can be dragged, a rectangle changed "
-        "at its corners.\n\n"
-        "Keys: arrows shift the map, + and - zoom, Home shows the world. Tab and Shift+Tab select, Enter "
-        "shows what is selected, Delete deletes it. Alt+arrows move it, Ctrl+arrows by a pixel, "
-        "Shift+arrows move the right lower corner of a rectangle."));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -69,12 +62,12 @@ void MapCanvas::showWorld()
 
 void MapCanvas::showObjects()
 {
-    showAll(m_scene->visibleGroups());
-}
-
-void MapCanvas::showSelection()
-{
-    showAll(m_scene->selection().values().toVector());
+    QRectF area;
+    for (const MapKey key : m_scene->visibleGroups())
+        area = area.united(m_scene->group(key)->box);
+    if (!area.isNull())
+        m_view.show(area);
+    viewHasChanged();
 }
 
 void MapCanvas::showGroup(quint64 key)
@@ -167,17 +160,6 @@ void MapCanvas::invalidateAll()
     update();
 }
 
-void MapCanvas::showAll(const QVector<MapKey>& keys)
-{
-    if (keys.isEmpty())
-        return;
-    QRectF area = m_scene->group(keys.first())->box;
-    for (const MapKey key : keys)
-        area = area.united(m_scene->group(key)->box);
-    m_view.show(area);
-    viewHasChanged();
-}
-
 // Brings the picture up to date.
 void MapCanvas::refresh()
 {
@@ -202,19 +184,13 @@ void MapCanvas::viewHasChanged()
 void MapCanvas::describeSelection()
 {
     const QSet<MapKey>& selection = m_scene->selection();
-    if (selection.size() > 1) {
+    if (selection.isEmpty())
+        setAccessibleDescription(tr("Tab selects an object, arrows shift the map, + and - zoom."));
+    else if (selection.size() == 1)
+        setAccessibleDescription(tr("%1 is selected. Alt+arrows move it, Ctrl+arrows by a pixel.")
+                                     .arg(m_scene->group(*selection.begin())->name));
+    else
         setAccessibleDescription(tr("%1 objects are selected").arg(selection.size()));
-    } else if (selection.isEmpty()) {
-        setAccessibleDescription(tr("Nothing is selected. Tab selects the next object."));
-    } else {
-        const MapGroup* const group = m_scene->group(*selection.begin());
-        setAccessibleDescription(
-            tr("%1 is selected, at %2")
-                .arg(group->name, MapPainter::placeText(group->box.center(), m_view.scale())));
-    }
-    // A single rectangle has handles, one among others has none.
-    for (const MapKey key : selection)
-        invalidate(m_scene->group(key)->box);
     emit hint(accessibleDescription());
 }
 
@@ -222,31 +198,24 @@ void MapCanvas::describeSelection()
 void MapCanvas::paintMarks(QPainter* painter)
 {
     const QColor color = MapPainter::markColor(palette());
-    const QPoint offset = m_last - m_pressed;
     painter->setPen(QPen(color, 2, Qt::DashLine));
-    if (m_isDragged && (m_gesture == GESTURE_SELECT || m_gesture == GESTURE_ZOOM))
-        painter->drawRect(QRect(m_pressed, m_last).normalized());
-    if (m_isDragged && m_gesture == GESTURE_RESIZE)
-        painter->drawRect(
-            m_view.toPixels(resizedBox(offset)).intersected(QRectF(rect()).adjusted(-9, -9, 9, 9)));
     if (m_isDragged && m_gesture == GESTURE_MOVE) {
+        const QRectF visible = QRectF(rect()).adjusted(-9, -9, 9, 9);
         for (const MapKey key : m_scene->selection()) {
             if (m_scene->canMove(key))
                 painter->drawRect(m_view.toPixels(m_scene->group(key)->box)
-                                      .translated(offset)
-                                      .intersected(QRectF(rect()).adjusted(-9, -9, 9, 9)));
+                                      .translated(m_last - m_pressed)
+                                      .intersected(visible));
         }
     }
     if (m_drawing == 0)
         return;
-    QPolygonF line;
-    for (const QPointF& point : qAsConst(m_points))
-        line.append(m_view.toPixels(point));
+    const QPolygonF line = m_view.toPixels(m_points);
     const QPointF cross = m_view.toPixels(m_cross);
     painter->drawPolyline(QPolygonF(line) << cross);
     painter->setPen(QPen(color, 2));
     painter->setBrush(color);
-    for (const QPointF& point : qAsConst(line))
+    for (const QPointF& point : line)
         painter->drawEllipse(point, POINT_RADIUS, POINT_RADIUS);
     painter->drawLine(cross - QPointF(CROSS_ARM, 0), cross + QPointF(CROSS_ARM, 0));
     painter->drawLine(cross - QPointF(0, CROSS_ARM), cross + QPointF(0, CROSS_ARM));

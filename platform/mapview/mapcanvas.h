@@ -28,7 +28,6 @@ public:
     void showWorld();
     /// All that is drawn and visible.
     void showObjects();
-    void showSelection();
     /// One that is not there any more is not shown.
     void showGroup(quint64 key);
     void selectAll();
@@ -39,8 +38,7 @@ public:
 signals:
     /// In degrees.
     void viewChanged(const QRectF& area);
-    /// The place of the mouse, or of the cross while a polygon is drawn, in degrees.
-    void pointed(const QPointF& place);
+    /// What the user may want to know now.
     void hint(const QString& text);
 
 protected:
@@ -57,23 +55,19 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    enum Gesture { GESTURE_NONE, GESTURE_SHIFT, GESTURE_MOVE, GESTURE_RESIZE, GESTURE_SELECT, GESTURE_ZOOM };
+    enum Gesture { GESTURE_NONE, GESTURE_SHIFT, GESTURE_MOVE };
 
     void invalidate(const QRectF& degrees);
     void invalidateAll();
     void refresh();
-    void showAll(const QVector<MapKey>& keys);
     void viewHasChanged();
     void describeSelection();
     void paintMarks(QPainter* painter);
 
     MapKey groupAt(const QPoint& pixel) const;
-    int cornerAt(const QPoint& pixel) const;
     void click(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
-    void endGesture(const QPoint& pixel);
-    QRectF resizedBox(const QPoint& offset) const;
     QPointF offsetInDegrees(const QPoint& pixels) const;
-    bool moveByKey(const QPoint& direction, Qt::KeyboardModifiers modifiers);
+    void moveByKey(const QPoint& direction, Qt::KeyboardModifiers modifiers);
 
     void startDrawing();
     bool drawByKey(int key, const QPoint& direction, Qt::KeyboardModifiers modifiers);
@@ -89,9 +83,8 @@ private:
     bool m_isDragged = false; // The mouse was moved far enough to mean it.
     QPoint m_pressed;
     QPoint m_last;
-    int m_corner = -1; // Of a rectangle that is made larger or smaller.
 
     MapKey m_drawing = 0; // The polygon that the user draws; 0: none.
-    QVector<QPointF> m_points;
+    QPolygonF m_points;
     QPointF m_cross; // Degrees.
 };

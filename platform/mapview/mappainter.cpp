@@ -20,7 +20,6 @@ const Colors DARK = {"#1b2630", "#36393a", "#8796a0", "#5b5a53", "#33434f", "#b4
 constexpr double GRID_STEPS[] = {30, 20, 10, 5, 2, 1, 0.5, 0.2, 0.1, 0.05, 0.02, 0.01, 0.005, 0.002, 0.001};
 constexpr int GRID_SPACE = 90;  // Pixels between two lines of the graticule, at least.
 constexpr int LABEL_WIDTH = 45; // Pixels that a shape must have to carry its name.
-constexpr int HANDLE = 7;       // Pixels.
 
 class Texts
 {
@@ -60,45 +59,29 @@ QPolygonF clipped(QPolygonF polygon, const QRectF& area)
     return clippedToEdge(polygon, false, area.bottom(), -1);
 }
 
-// Lines of a map are short: those with both ends on the outer side of an edge are left out, others are painted whole.
+// Lines of a map are short: those that come near the area are painted whole.
 void addSegments(const QPolygonF& line, const QRectF& area, QVector<QLineF>* segments)
 {
     for (int i = 1; i < line.size(); ++i) {
-        const QPointF& a = line[i - 1];
-        const QPointF& b = line[i];
-        if ((a.x() < area.left() && b.x() < area.left()) || (a.x() > area.right() && b.x() > area.right()) ||
-            (a.y() < area.top() && b.y() < area.top()) || (a.y() > area.bottom() && b.y() > area.bottom()))
-            continue;
-        segments->append(QLineF(a, b));
+        if (QRectF(line[i - 1], line[i]).normalized().adjusted(-1, -1, 1, 1).intersects(area))
+            segments->append(QLineF(line[i - 1], line[i]));
     }
-}
-
-QPolygonF inPixels(const QVector<QPointF>& points, const Viewport& view)
-{
-    QPolygonF result;
-    result.reserve(points.size());
-    for (const QPointF& point : points)
-        result.append(view.toPixels(point));
-    return result;
 }
 
 void paintLand(QPainter* painter, const Viewport& view, const Colors& colors, const QRectF& part)
 {
     const QRectF area = view.toDegrees(part);
     QVector<QLineF> coasts;
+    QVector<QLineF> borders;
     painter->setPen(Qt::NoPen);
     painter->setBrush(colors.land);
-    for (const MapLine& ring : Coastlines::instance().land()) {
-        if (!ring.box.intersects(area))
+    for (const MapLine& line : coastlines()) {
+        if (!line.box.intersects(area))
             continue;
-        const QPolygonF pixels = inPixels(ring.points, view);
-        painter->drawPolygon(clipped(pixels, part));
-        addSegments(pixels, part, &coasts);
-    }
-    QVector<QLineF> borders;
-    for (const MapLine& line : Coastlines::instance().borders()) {
-        if (line.box.intersects(area))
-            addSegments(inPixels(line.points, view), part, &borders);
+        const QPolygonF pixels = view.toPixels(line.points);
+        if (line.isLand)
+            painter->drawPolygon(clipped(pixels, part));
+        addSegments(pixels, part, line.isLand ? &coasts : &borders);
     }
     painter->setPen(colors.border);
     painter->drawLines(borders);
@@ -140,83 +123,51 @@ void paintGrid(QPainter* painter, const Viewport& view, const Colors& colors, co
     }
 }
 
-// Paints the shapes of a part, one after the other.
-class ShapePainter
+void paintShape(QPainter* painter, const MapGroup& group, const QPolygonF& pixels, const QRectF& part)
 {
-public:
-    ShapePainter(QPainter* painter, const Viewport& view, const MapScene& scene, const Colors& colors,
+    const QRectF box = pixels.boundingRect();
+    if (box.width() < 2 && box.height() < 2) {
+        painter->drawRect(QRectF(box.center() - QPointF(1, 1), QSizeF(2, 2)));
+    } else if (group.isRect) {
+        painter->drawRect(box.intersected(part));
+    } else {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->drawPolygon(clipped(pixels, part));
+        painter->setRenderHint(QPainter::Antialiasing, false);
+    }
+}
+
+void paintName(QPainter* painter, const QString& name, const QRectF& box, const QColor& color)
+{
+    const QFontMetrics metrics = painter->fontMetrics();
+    if (box.width() < LABEL_WIDTH || box.height() < metrics.height())
+        return;
+    const QString text = metrics.elidedText(name, Qt::ElideRight, int(std::min(box.width(), 1e4)) - 6);
+    const QPen pen = painter->pen();
+    painter->setPen(color);
+    painter->drawText(box.center() + QPointF(-metrics.horizontalAdvance(text), metrics.ascent()) / 2, text);
+    painter->setPen(pen);
+}
+
+void paintShapes(QPainter* painter, const Viewport& view, const MapScene& scene, const Colors& colors,
                  const QRectF& part)
-        : m_painter(painter)
-        , m_view(view)
-        , m_selection(scene.selection())
-        , m_colors(colors)
-        , m_part(part)
-    {
-    }
-
-    void paint(const MapLayer& layer, const MapGroup& group)
-    {
-        const QRectF box = m_view.toPixels(group.box);
-        const bool isSelected = m_selection.contains(group.key);
-        usePens(layer, isSelected);
-        if (box.width() < 2 && box.height() < 2) {
-            m_painter->drawRect(QRectF(box.center() - QPointF(1, 1), QSizeF(2, 2)));
-        } else if (group.kind == MapGroup::RECT) {
-
-            m_painter->drawRect(box.intersected(m_part));
-            if (isSelected && m_selection.size() == 1)
-                paintHandles(box);
-        } else {
-            m_painter->setRenderHint(QPainter::Antialiasing);
-            m_painter->drawPolygon(clipped(inPixels(group.points, m_view), m_part));
-            m_painter->setRenderHint(QPainter::Antialiasing, false);
+{
+    const MapLayer* last = nullptr;
+    bool wasSelected = false;
+    scene.visit(view.toDegrees(part), [&](const MapLayer& layer, const MapGroup& group) {
+        const bool isSelected = scene.selection().contains(group.key);
+        if (last != &layer || isSelected != wasSelected) {
+            QColor color = layer.color.isValid() ? layer.color : colors.shape;
+            painter->setPen(isSelected ? QPen(colors.mark, 3) : QPen(color, 1));
+            color.setAlpha(255 * (100 - layer.transparency) / 100);
+            painter->setBrush(color);
         }
-        if (box.width() > LABEL_WIDTH && box.height() > m_painter->fontMetrics().height())
-            paintName(group.name, box);
-    }
-
-private:
-    void usePens(const MapLayer& layer, bool isSelected)
-    {
-        if (m_layer == &layer && m_isSelected == isSelected)
-            return;
-        m_layer = &layer;
-        m_isSelected = isSelected;
-        QColor color = layer.color.isValid() ? layer.color : m_colors.shape;
-        m_painter->setPen(isSelected ? QPen(m_colors.mark, 3) : QPen(color, 1));
-        color.setAlpha(255 * (100 - layer.transparency) / 100);
-        m_painter->setBrush(color);
-    }
-
-    void paintHandles(const QRectF& box)
-    {
-        for (const QPointF& corner : {box.topLeft(), box.topRight(), box.bottomLeft(), box.bottomRight()}) {
-            const QRectF handle(corner - QPointF(HANDLE, HANDLE) / 2, QSizeF(HANDLE, HANDLE));
-            if (handle.intersects(m_part))
-                m_painter->fillRect(handle, m_colors.mark);
-        }
-    }
-
-    void paintName(const QString& name, const QRectF& box)
-    {
-        const QPen pen = m_painter->pen();
-        const QFontMetrics metrics = m_painter->fontMetrics();
-        const QString text = metrics.elidedText(name, Qt::ElideRight, int(std::min(box.width(), 1e4)) - 6);
-        const QPointF corner(box.center().x() - metrics.horizontalAdvance(text) / 2.0,
-                             box.center().y() + metrics.ascent() / 2.0);
-        m_painter->setPen(m_colors.text);
-        m_painter->drawText(corner, text);
-        m_painter->setPen(pen);
-    }
-
-    QPainter* m_painter;
-    const Viewport& m_view;
-    const QSet<MapKey>& m_selection;
-    const Colors& m_colors;
-    QRectF m_part; // With room for what reaches out of it.
-    const MapLayer* m_layer = nullptr;
-    bool m_isSelected = false;
-};
+        last = &layer;
+        wasSelected = isSelected;
+        paintShape(painter, group, view.toPixels(group.points), part);
+        paintName(painter, group.name, view.toPixels(group.box), colors.text);
+    });
+}
 } // namespace
 
 void MapPainter::paintMap(QPainter* painter, const Viewport& view, const MapScene& scene,
@@ -232,9 +183,7 @@ void MapPainter::paintMap(QPainter* painter, const Viewport& view, const MapScen
     paintLand(painter, view, colors, area);
     painter->setRenderHint(QPainter::Antialiasing, false);
     paintGrid(painter, view, colors, area);
-    ShapePainter shapes(painter, view, scene, colors, area);
-    scene.visit(view.toDegrees(area),
-                [&shapes](const MapLayer& layer, const MapGroup& group) { shapes.paint(layer, group); });
+    paintShapes(painter, view, scene, colors, area);
     painter->restore();
 }
 
@@ -259,13 +208,4 @@ void MapPainter::paintLabels(QPainter* painter, const Viewport& view, const QPal
 QColor MapPainter::markColor(const QPalette& palette)
 {
     return colorsOf(palette).mark;
-}
-
-QString MapPainter::placeText(const QPointF& degrees, double scale)
-{
-    const int digits = qBound(1, int(std::ceil(std::log10(scale))), 5);
-    const auto number = [digits](double value) { return QString::number(std::abs(value), 'f', digits); };
-    return (degrees.y() < 0 ? Texts::tr("%1° S") : Texts::tr("%1° N")).arg(number(degrees.y())) +
-           QStringLiteral("  ") +
-           (degrees.x() < 0 ? Texts::tr("%1° W") : Texts::tr("%1° E")).arg(number(degrees.x()));
 }

@@ -2,7 +2,6 @@
 
 #include <QPalette>
 #include <QRect>
-#include <QString>
 
 class MapScene;
 class QPainter;
@@ -10,7 +9,7 @@ class Viewport;
 
 /// Paints the map. Everything is painted in pixels of the viewport, and only what meets the part that is wanted.
 namespace MapPainter {
-/// How far outlines and handles reach beyond their shape, in pixels.
+/// How far outlines reach beyond their shape, in pixels.
 constexpr int MARGIN = 5;
 
 /// Land, graticule and all shapes.
@@ -20,6 +19,4 @@ void paintMap(QPainter* painter, const Viewport& view, const MapScene& scene, co
 void paintLabels(QPainter* painter, const Viewport& view, const QPalette& palette);
 /// For what is being moved or drawn.
 QColor markColor(const QPalette& palette);
-/// "12.5° N 3.25° E", with as many digits as the scale can tell apart.
-QString placeText(const QPointF& degrees, double scale);
 } // namespace MapPainter

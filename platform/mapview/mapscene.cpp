@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <QPolygonF>
 #include <QStringList>
 
 namespace {
@@ -23,30 +22,25 @@ QColor colorOf(int number)
     return QColor(number & 0xFF, number >> 8 & 0xFF, number >> 16 & 0xFF);
 }
 
-// NAME=VALUE joined by ";". What the map does not know is left out.
-void setProperties(const QString& text, MapLayer* layer)
+// NAME=VALUE joined by ";". What the map does not know is left out, what is not there stays as it was.
+void applyProperties(const QString& text, MapLayer* layer)
 {
-    bool isEditable = true;
+    QHash<QString, QString> values;
     const QStringList properties = text.split(QLatin1Char(';'));
-    for (const QString& property : properties) {
-        const QString name = property.section(QLatin1Char('='), 0, 0);
-        const QString value = property.section(QLatin1Char('='), 1);
-        const bool isTrue = value == QLatin1String("TRUE");
-        if (name == QLatin1String("EDIT"))
-            isEditable = isTrue;
-        else if (name == QLatin1String("DELETE"))
-            layer->canBeDeleted = isTrue;
-        else if (name == QLatin1String("O_DELETE"))
-            layer->canDeleteObjects = isTrue;
-        else if (name == QLatin1String("O_MOVE"))
-            layer->canMoveObjects = isTrue;
-        else if (name == QLatin1String("FILL_COLOR"))
-            layer->color = colorOf(value.toInt());
-        else if (name == QLatin1String("TRANS") && layer->color.isValid())
-            layer->transparency = qBound(0, value.toInt(), 100);
-    }
-    layer->canDeleteObjects = layer->canDeleteObjects && isEditable;
-    layer->canMoveObjects = layer->canMoveObjects && isEditable;
+    for (const QString& property : properties)
+        values.insert(property.section(QLatin1Char('='), 0, 0), property.section(QLatin1Char('='), 1));
+    const auto isTrue = [&values](const char* name, bool otherwise) {
+        const auto value = values.constFind(QLatin1String(name));
+        return value == values.constEnd() ? otherwise : *value == QLatin1String("TRUE");
+    };
+    const bool isEditable = isTrue("EDIT", true);
+    layer->canBeDeleted = isTrue("DELETE", layer->canBeDeleted);
+    layer->canDeleteObjects = isEditable && isTrue("O_DELETE", layer->canDeleteObjects);
+    layer->canMoveObjects = isEditable && isTrue("O_MOVE", layer->canMoveObjects);
+    if (values.contains(QStringLiteral("FILL_COLOR")))
+        layer->color = colorOf(values.value(QStringLiteral("FILL_COLOR")).toInt());
+    if (values.contains(QStringLiteral("TRANS")) && layer->color.isValid())
+        layer->transparency = qBound(0, values.value(QStringLiteral("TRANS")).toInt(), 100);
 }
 
 // Whatever lies farther away is no place; a comparison with what is no number is false, too.
@@ -58,9 +52,9 @@ bool arePlaces(const QVector<QPointF>& points)
 }
 } // namespace
 
-QVector<QPointF> cornersOf(const QRectF& box)
+QPolygonF cornersOf(const QRectF& box)
 {
-    return {QPointF(box.left(), box.bottom()), QPointF(box.right(), box.top())};
+    return QPolygonF() << box.bottomLeft() << box.topRight();
 }
 
 const QRectF& MapScene::world()
@@ -73,12 +67,6 @@ QPointF MapScene::onWorld(const QPointF& place)
 {
     return QPointF(qBound(world().left(), place.x(), world().right()),
                    qBound(world().top(), place.y(), world().bottom()));
-}
-
-MapScene::MapScene()
-{
-    m_selectionTimer.setSingleShot(true);
-    connect(&m_selectionTimer, &QTimer::timeout, this, &MapScene::selectionChanged);
 }
 
 int MapScene::addClient(const QString& name)
@@ -94,44 +82,24 @@ void MapScene::removeClient(int client)
         if (m_layers[size_t(i)]->client == client)
             removeLayer(m_layers[size_t(i)].get());
     }
-    setPainting(client, true);
+    m_silent.remove(client);
+    emit paintingChanged();
     m_clients.remove(client);
     emit layersChanged();
 }
 
 bool MapScene::apply(int client, const MapMessage& message)
 {
-    const MapKey key = mapKey(client, message.id);
-    if (message.kind == MAP_CREATE_LAYER)
-        createLayer(client, message);
-    else if (message.kind == MAP_CREATE_GROUP)
-        createGroup(client, message);
-    else if (message.kind == MAP_CREATE_RECT && message.points.size() == 2)
-        createShape(client, message, MapGroup::RECT);
-    else if (message.kind == MAP_CREATE_POLYGON)
-        createShape(client, message, MapGroup::POLYGON);
-    else if (message.kind == MAP_CREATE_EDITABLE)
-        createShape(client, message, MapGroup::EDITABLE);
-    else if (message.kind == MAP_TOOL_TIP)
-        setToolTip(key, message.text);
-    else if (message.kind == MAP_DELETE)
-        remove(client, message);
-    else if (message.kind == MAP_SELECT)
-        requestShow(key);
-    else if (message.kind == MAP_PAINT)
-        setPainting(client, message.code != 0);
-    else if (message.kind == MAP_LAYER_PROPERTIES) {
-        if (MapLayer* const layer = findLayer(client, message.id)) {
-            setProperties(message.text, layer);
-            emit changed(world());
-        }
-    }
+    using Handler = void (MapScene::*)(int, const MapMessage&);
+    static const QHash<int, Handler> HANDLERS = {
+        {MAP_CREATE_LAYER, &MapScene::createLayer},   {MAP_LAYER_PROPERTIES, &MapScene::setProperties},
+        {MAP_CREATE_GROUP, &MapScene::createGroup},   {MAP_CREATE_RECT, &MapScene::createShape},
+        {MAP_CREATE_POLYGON, &MapScene::createShape}, {MAP_CREATE_EDITABLE, &MapScene::createShape},
+        {MAP_TOOL_TIP, &MapScene::setToolTip},        {MAP_DELETE, &MapScene::remove},
+        {MAP_SELECT, &MapScene::requestShow},         {MAP_PAINT, &MapScene::setPainting}};
+    if (const Handler handler = HANDLERS.value(message.kind))
+        (this->*handler)(client, message);
     return m_clients[client].points <= MAX_POINTS;
-}
-
-const MapGroup* MapScene::group(MapKey key) const
-{
-    return findGroup(key);
 }
 
 QVector<MapKey> MapScene::visibleGroups() const
@@ -145,24 +113,20 @@ QVector<MapKey> MapScene::visibleGroups() const
 bool MapScene::canMove(MapKey key) const
 {
     const MapLayer* const layer = layerOf(key);
-    return layer && layer->canMoveObjects;
+    return layer && layer->canMoveObjects && findGroup(key)->isDrawn();
 }
 
 void MapScene::select(const QSet<MapKey>& keys)
 {
     const QSet<MapKey> before = std::exchange(m_selection, keys);
-    for (const MapKey key : before) {
-        if (!keys.contains(key) && findGroup(key)) {
+    const auto report = [this](const QSet<MapKey>& differing, MapMessageKind kind) {
+        for (const MapKey key : differing) {
             emit changed(findGroup(key)->box);
-            tell(MAP_GROUP_DESELECTED, key);
+            tell(kind, key);
         }
-    }
-    for (const MapKey key : keys) {
-        if (!before.contains(key) && findGroup(key)) {
-            emit changed(findGroup(key)->box);
-            tell(MAP_GROUP_SELECTED, key);
-        }
-    }
+    };
+    report(before - keys, MAP_GROUP_DESELECTED);
+    report(keys - before, MAP_GROUP_SELECTED);
     if (before != keys)
         emit selectionChanged();
 }
@@ -170,9 +134,12 @@ void MapScene::select(const QSet<MapKey>& keys)
 void MapScene::move(const QSet<MapKey>& keys, const QPointF& offset)
 {
     QRectF all;
+    QVector<MapGroup*> groups;
     for (const MapKey key : keys) {
-        if (canMove(key))
-            all = all.isNull() ? findGroup(key)->box : all.united(findGroup(key)->box);
+        if (!canMove(key))
+            continue;
+        groups.append(findGroup(key));
+        all = all.united(groups.last()->box);
     }
     const auto limited = [](double value, double least, double most) {
         return least <= 0 && most >= 0 ? qBound(least, value, most) : 0;
@@ -181,28 +148,11 @@ void MapScene::move(const QSet<MapKey>& keys, const QPointF& offset)
                        limited(offset.y(), world().top() - all.top(), world().bottom() - all.bottom()));
     if (step.isNull())
         return;
-    for (const MapKey key : keys) {
-        MapGroup* const group = canMove(key) ? findGroup(key) : nullptr;
-        if (!group || !group->isDrawn())
-            continue;
-        QVector<QPointF> points = group->points;
-        for (QPointF& point : points)
-            point += step;
-        setPoints(group, points);
-        if (group->kind == MapGroup::RECT)
-            tell(MAP_GROUP_RESIZED, key, points);
-        else
-            tell(MAP_GROUP_MOVED, key, {step});
+    for (MapGroup* group : qAsConst(groups)) {
+        setPoints(group, group->points.translated(step));
+        tell(group->isRect ? MAP_GROUP_RESIZED : MAP_GROUP_MOVED, group->key,
+             group->isRect ? group->points : QPolygonF() << step);
     }
-}
-
-void MapScene::resize(MapKey key, const QRectF& box)
-{
-    MapGroup* const group = canMove(key) ? findGroup(key) : nullptr;
-    if (!group || group->kind != MapGroup::RECT || box == group->box)
-        return;
-    setPoints(group, cornersOf(QRectF(onWorld(box.topLeft()), onWorld(box.bottomRight()))));
-    tell(MAP_GROUP_RESIZED, key, group->points);
 }
 
 // By value: what is erased leaves the selection, too.
@@ -239,18 +189,15 @@ void MapScene::setLayerVisible(int client, qint32 id, bool isVisible)
     }
     select(visible);
     emit changed(world());
-    emit objectsChanged();
 }
 
-void MapScene::finishPolygon(MapKey key, const QVector<QPointF>& points)
+void MapScene::finishPolygon(MapKey key, const QPolygonF& points)
 {
     MapGroup* const group = findGroup(key);
     if (!group || !m_pending.removeOne(key))
         return;
-    group->kind = MapGroup::POLYGON;
     setPoints(group, points);
     tell(MAP_POLYGON_DRAWN, mapKey(clientOf(key), group->shape), points);
-    emit objectsChanged();
     emit pendingPolygonChanged();
 }
 
@@ -303,40 +250,47 @@ void MapScene::createGroup(int client, const MapMessage& message)
     ++m_clients[client].points;
 }
 
-void MapScene::createShape(int client, const MapMessage& message, MapGroup::Kind kind)
+void MapScene::createShape(int client, const MapMessage& message)
 {
+    const bool isRect = message.kind == MAP_CREATE_RECT;
     const MapKey shape = mapKey(client, message.id);
     MapGroup* const group = findGroup(mapKey(client, message.parent));
-    if (!group || message.id <= 0 || m_shapes.contains(shape) || !arePlaces(message.points))
+    if (!group || message.id <= 0 || m_shapes.contains(shape) || !arePlaces(message.points) ||
+        (isRect && message.points.size() != 2))
         return;
     clearShape(group);
-    group->kind = kind;
+    group->isRect = isRect;
     group->shape = message.id;
     m_shapes.insert(shape, group->key);
-    if (kind == MapGroup::EDITABLE) {
+    if (message.kind == MAP_CREATE_EDITABLE) {
         m_pending.append(group->key);
         emit pendingPolygonChanged();
-        return;
+    } else {
+        // Left top and right bottom, whatever corners were given.
+        setPoints(group, isRect ? cornersOf(QPolygonF(message.points).boundingRect()) : message.points);
     }
-    // Left top and right bottom, whatever corners were given.
-    setPoints(group, kind == MapGroup::RECT
-                         ? cornersOf(QRectF(message.points[0], message.points[1]).normalized())
-                         : message.points);
-    emit objectsChanged();
 }
 
-void MapScene::setToolTip(MapKey key, const QString& text)
+void MapScene::setToolTip(int client, const MapMessage& message)
 {
-    if (MapGroup* const group = findGroup(key))
-        group->toolTip = text;
+    if (MapGroup* const group = findGroup(mapKey(client, message.id)))
+        group->toolTip = message.text;
 }
 
-void MapScene::setPoints(MapGroup* group, const QVector<QPointF>& points)
+void MapScene::setProperties(int client, const MapMessage& message)
+{
+    if (MapLayer* const layer = findLayer(client, message.id)) {
+        applyProperties(message.text, layer);
+        emit changed(world());
+    }
+}
+
+void MapScene::setPoints(MapGroup* group, const QPolygonF& points)
 {
     m_clients[clientOf(group->key)].points += points.size() - group->points.size();
     emit changed(group->box);
     group->points = points;
-    group->box = QPolygonF(points).boundingRect();
+    group->box = points.boundingRect();
     emit changed(group->box);
 }
 
@@ -351,7 +305,6 @@ void MapScene::remove(int client, const MapMessage& message)
         removeGroup(key);
     } else if (message.code == DELETE_SHAPE && m_shapes.contains(key)) {
         clearShape(findGroup(m_shapes.value(key)));
-        emit objectsChanged();
     }
 }
 
@@ -374,22 +327,21 @@ void MapScene::removeGroup(MapKey key)
     --m_clients[clientOf(key)].points;
     m_groups.take(key)->groups.erase(idOf(key));
     if (m_selection.remove(key))
-        m_selectionTimer.start();
-    emit objectsChanged();
+        emit selectionChanged();
 }
 
 void MapScene::clearShape(MapGroup* group)
 {
     m_shapes.remove(mapKey(clientOf(group->key), group->shape));
-    group->kind = MapGroup::NOTHING;
     group->shape = 0;
     setPoints(group, {});
     if (m_pending.removeOne(group->key))
         emit pendingPolygonChanged();
 }
 
-void MapScene::requestShow(MapKey key)
+void MapScene::requestShow(int client, const MapMessage& message)
 {
+    const MapKey key = mapKey(client, message.id);
     const MapGroup* const group = findGroup(key);
     if (!group || !group->isDrawn() || !layerOf(key)->isVisible)
         return;
@@ -397,15 +349,13 @@ void MapScene::requestShow(MapKey key)
     emit showRequested(key);
 }
 
-void MapScene::setPainting(int client, bool on)
+void MapScene::setPainting(int client, const MapMessage& message)
 {
-    const bool wasPainting = isPainting();
-    if (on)
+    if (message.code != 0)
         m_silent.remove(client);
     else
         m_silent.insert(client);
-    if (isPainting() != wasPainting)
-        emit paintingChanged();
+    emit paintingChanged();
 }
 
 void MapScene::tell(MapMessageKind kind, MapKey key, const QVector<QPointF>& points)

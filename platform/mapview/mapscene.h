@@ -6,9 +6,8 @@
 #include <QColor>
 #include <QHash>
 #include <QObject>
-#include <QRectF>
+#include <QPolygonF>
 #include <QSet>
-#include <QTimer>
 #include <vector>
 
 /// An object of any client: the client's number and the object's id.
@@ -19,22 +18,21 @@ inline MapKey mapKey(int client, qint32 id)
 }
 
 /// Left top and right bottom of a box whose top is the smallest latitude.
-QVector<QPointF> cornersOf(const QRectF& box);
+QPolygonF cornersOf(const QRectF& box);
 
 /// One shape on the map, in the group that holds it. Places are in degrees.
 struct MapGroup
 {
-    enum Kind { NOTHING, RECT, POLYGON, EDITABLE }; // EDITABLE: the user has still to draw it.
-
     MapKey key = 0;
     QString name;
     QString toolTip;
-    Kind kind = NOTHING;
-    qint32 shape = 0;        // Id of the shape; 0: none yet.
-    QVector<QPointF> points; // A rectangle's are left top and right bottom.
-    QRectF box;              // Around the points; its top is the smallest latitude.
+    bool isRect = false;
+    qint32 shape = 0; // Id of the shape; 0: none yet.
+    QPolygonF
+        points; // A rectangle's are left top and right bottom; none of a polygon that is still to be drawn.
+    QRectF box; // Around the points; its top is the smallest latitude.
 
-    bool isDrawn() const { return kind == RECT || kind == POLYGON; }
+    bool isDrawn() const { return !points.isEmpty(); }
 };
 
 struct MapLayer
@@ -62,8 +60,6 @@ public:
     static const QRectF& world();                 ///< (-180, -90) to (180, 90)
     static QPointF onWorld(const QPointF& place); ///< the nearest one there
 
-    MapScene();
-
     /// \return the client's number, from 1
     int addClient(const QString& name);
     /// All that it has drawn goes with it.
@@ -76,7 +72,7 @@ public:
 
     /// In the order in which they are painted. Valid until the next change.
     const std::vector<std::unique_ptr<MapLayer>>& layers() const { return m_layers; }
-    const MapGroup* group(MapKey key) const;
+    const MapGroup* group(MapKey key) const { return findGroup(key); }
     const MapLayer* layerOf(MapKey key) const { return m_groups.value(key); }
     /// All that are drawn in visible layers, in the order of painting.
     QVector<MapKey> visibleGroups() const;
@@ -95,21 +91,16 @@ public:
     void select(const QSet<MapKey>& keys);
     /// Moves what may be moved, as far as the world reaches.
     void move(const QSet<MapKey>& keys, const QPointF& offset);
-    /// \param box  its top is the smallest latitude
-    void resize(MapKey key, const QRectF& box);
     void erase(QSet<MapKey> keys);
     void eraseLayer(int client, qint32 id);
     void setLayerVisible(int client, qint32 id, bool isVisible);
-    void finishPolygon(MapKey key, const QVector<QPointF>& points);
+    void finishPolygon(MapKey key, const QPolygonF& points);
     /// The user does not want to draw it: it is deleted.
     void cancelPolygon(MapKey key);
 
 signals:
     void changed(const QRectF& area);
     void layersChanged();
-    /// Objects came, went or have another name.
-    void objectsChanged();
-    /// A moment later when selected objects go.
     void selectionChanged();
     void paintingChanged();
     void pendingPolygonChanged();
@@ -129,15 +120,16 @@ private:
     MapGroup* findGroup(MapKey key) const;
     void createLayer(int client, const MapMessage& message);
     void createGroup(int client, const MapMessage& message);
-    void createShape(int client, const MapMessage& message, MapGroup::Kind kind);
-    void setToolTip(MapKey key, const QString& text);
-    void setPoints(MapGroup* group, const QVector<QPointF>& points);
+    void createShape(int client, const MapMessage& message);
+    void setToolTip(int client, const MapMessage& message);
+    void setProperties(int client, const MapMessage& message);
+    void setPainting(int client, const MapMessage& message);
     void remove(int client, const MapMessage& message);
+    void requestShow(int client, const MapMessage& message);
+    void setPoints(MapGroup* group, const QPolygonF& points);
     void removeLayer(const MapLayer* layer);
     void removeGroup(MapKey key);
     void clearShape(MapGroup* group);
-    void requestShow(MapKey key);
-    void setPainting(int client, bool on);
     void tell(MapMessageKind kind, MapKey key, const QVector<QPointF>& points = {});
 
     int m_lastClient = 0;
@@ -147,8 +139,7 @@ private:
     QHash<MapKey, MapKey> m_shapes;    // The group of each shape.
     QSet<MapKey> m_selection;
     QVector<MapKey> m_pending;
-    QSet<int> m_silent;      // Clients that have painting off.
-    QTimer m_selectionTimer; // Much of what is selected may go at once.
+    QSet<int> m_silent; // Clients that have painting off.
 };
 
 template <typename Visitor>

@@ -1,37 +1,24 @@
 #include "mapwindow.h"
 
 #include "mapcanvas.h"
-#include "mappainter.h"
-#include "mappanes.h"
 #include "mapserver.h"
 
 #include <QApplication>
-#include <QDockWidget>
-#include <QEventLoop>
-#include <QLabel>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QStyleFactory>
-#include <QTimer>
-#include <QWhatsThis>
-
-namespace {
-constexpr int PICTURE_TIME = 300; // ms
-} // namespace
 
 MapWindow::MapWindow()
     : m_canvas(new MapCanvas(&m_scene, this))
     , m_server(new MapServer(&m_scene, this))
-    , m_place(new QLabel(this))
-    , m_clients(new QLabel(this))
 {
     setWindowTitle(tr("Map"));
     setCentralWidget(m_canvas);
-    addPane(new LayersPane(&m_scene, this), tr("Layers"));
-    addPane(new ObjectsPane(&m_scene, this), tr("Objects"));
     buildMenus();
-    buildStatusBar();
     connect(m_canvas, &MapCanvas::viewChanged, m_server, &MapServer::setVisibleArea);
+    const auto showMessage = [this](const QString& text) { statusBar()->showMessage(text); };
+    connect(m_server, &MapServer::message, this, showMessage);
+    connect(m_canvas, &MapCanvas::hint, this, showMessage);
     m_canvas->setFocus();
     resize(1100, 700);
 }
@@ -41,7 +28,6 @@ MapWindow::~MapWindow()
 {
     delete m_server;
     delete m_canvas;
-    qDeleteAll(findChildren<QDockWidget*>());
 }
 
 bool MapWindow::listen(const QString& name, QString* error)
@@ -52,7 +38,10 @@ bool MapWindow::listen(const QString& name, QString* error)
 
 void MapWindow::drawPicture(const QString& file)
 {
-    connect(m_server, &MapServer::clientLeaves, this, [this, file] { leaveWithPicture(file); });
+    connect(m_server, &MapServer::clientLeaves, this, [this, file] {
+        m_canvas->showObjects();
+        QApplication::exit(grab().save(file, "PNG") ? 0 : 1);
+    });
 }
 
 void MapWindow::useDarkWindows()
@@ -72,13 +61,7 @@ void MapWindow::buildMenus()
 
     QMenu* const edit = menuBar()->addMenu(tr("&Edit"));
     edit->addAction(tr("Select &all"), m_canvas, &MapCanvas::selectAll, QKeySequence::SelectAll);
-    edit->addAction(tr("Select &next"), m_canvas, [this] { m_canvas->selectNext(true); });
-    edit->addAction(tr("Select &previous"), m_canvas, [this] { m_canvas->selectNext(false); });
-    QAction* const erase =
-        edit->addAction(tr("&Delete"), m_canvas, &MapCanvas::eraseSelection, QKeySequence::Delete);
-    // In the list of layers the key means a layer.
-    erase->setShortcutContext(Qt::WidgetShortcut);
-    m_canvas->addAction(erase);
+    edit->addAction(tr("&Delete"), m_canvas, &MapCanvas::eraseSelection, QKeySequence::Delete);
 
     QMenu* const view = menuBar()->addMenu(tr("&View"));
     view->addAction(
@@ -89,47 +72,27 @@ void MapWindow::buildMenus()
     view->addAction(tr("Whole &world"), m_canvas, &MapCanvas::showWorld, QKeySequence(Qt::CTRL + Qt::Key_0));
     view->addAction(tr("All &objects"), m_canvas, &MapCanvas::showObjects,
                     QKeySequence(Qt::CTRL + Qt::Key_1));
-    view->addAction(tr("&Selected objects"), m_canvas, &MapCanvas::showSelection,
-                    QKeySequence(Qt::CTRL + Qt::Key_2));
-    view->addSeparator();
-    for (QDockWidget* pane : findChildren<QDockWidget*>())
-        view->addAction(pane->toggleViewAction());
-    menuBar()->addMenu(tr("&Help"))->addAction(tr("&Mouse and keys"), this, [this] {
-        QWhatsThis::showText(m_canvas->mapToGlobal(m_canvas->rect().center()), m_canvas->whatsThis(),
-                             m_canvas);
-    });
+
+    m_layers = menuBar()->addMenu(tr("&Layers"));
+    m_layers->setObjectName(QStringLiteral("Layers"));
+    connect(m_layers, &QMenu::aboutToShow, this, &MapWindow::fillLayers);
 }
 
-void MapWindow::buildStatusBar()
+// A menu for each layer, in which the user hides or deletes it.
+void MapWindow::fillLayers()
 {
-    m_place->setObjectName(QStringLiteral("Place"));
-    statusBar()->addPermanentWidget(m_place);
-    statusBar()->addPermanentWidget(m_clients);
-    const auto showMessage = [this](const QString& text) { statusBar()->showMessage(text); };
-    connect(m_server, &MapServer::message, this, showMessage);
-    connect(m_canvas, &MapCanvas::hint, this, showMessage);
-    connect(m_canvas, &MapCanvas::pointed, this, [this](const QPointF& place) {
-        m_place->setText(MapPainter::placeText(place, m_canvas->viewport().scale()));
-    });
-    const auto countClients = [this] { m_clients->setText(tr("Clients: %1").arg(m_scene.clientCount())); };
-    connect(&m_scene, &MapScene::layersChanged, this, countClients);
-    countClients();
-}
-
-void MapWindow::addPane(QWidget* pane, const QString& title)
-{
-    auto* const dock = new QDockWidget(title, this);
-    dock->setObjectName(pane->objectName() + QStringLiteral("Dock"));
-    dock->setWidget(pane);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
-}
-
-void MapWindow::leaveWithPicture(const QString& file)
-{
-    m_canvas->showObjects();
-    // The list of objects is filled with a delay.
-    QEventLoop loop;
-    QTimer::singleShot(PICTURE_TIME, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeSocketNotifiers);
-    QApplication::exit(grab().save(file, "PNG") ? 0 : 1);
+    m_layers->clear();
+    for (const auto& layer : m_scene.layers()) {
+        const int client = layer->client;
+        const qint32 id = layer->id;
+        QMenu* const menu = m_layers->addMenu(tr("%1: %2").arg(
+            m_scene.clientName(client), layer->name.isEmpty() ? tr("Layer without a name") : layer->name));
+        QAction* const shown = menu->addAction(tr("&Shown"));
+        shown->setCheckable(true);
+        shown->setChecked(layer->isVisible);
+        connect(shown, &QAction::toggled, this,
+                [=](bool isOn) { m_scene.setLayerVisible(client, id, isOn); });
+        menu->addAction(tr("&Delete"), this, [=] { m_scene.eraseLayer(client, id); })
+            ->setEnabled(layer->canBeDeleted);
+    }
 }

@@ -6,7 +6,6 @@
 
 class MapCanvas;
 class MapServer;
-class QLabel;
 
 /// The window of the map program, with all that belongs to it.
 class MapWindow : public QMainWindow
@@ -31,13 +30,10 @@ public:
 
 private:
     void buildMenus();
-    void buildStatusBar();
-    void addPane(QWidget* pane, const QString& title);
-    void leaveWithPicture(const QString& file);
+    void fillLayers();
 
     MapScene m_scene;
     MapCanvas* m_canvas;
     MapServer* m_server;
-    QLabel* m_place;
-    QLabel* m_clients;
+    QMenu* m_layers = nullptr;
 };

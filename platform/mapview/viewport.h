@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <QRectF>
 #include <QSize>
+#include <QTransform>
 
 /// The part of the map that a window shows: degrees to pixels and back. The map's pixels are whole numbers, so that a
 /// picture of the map can be shifted.
@@ -25,6 +26,10 @@ public:
     QRectF toPixels(const QRectF& degrees) const
     {
         return QRectF(toPixels(degrees.bottomLeft()), toPixels(degrees.topRight()));
+    }
+    QPolygonF toPixels(const QPolygonF& degrees) const
+    {
+        return QTransform(m_scale, 0, 0, -m_scale, -m_origin.x(), -m_origin.y()).map(degrees);
     }
     QPointF middle() const { return QPointF(m_size.width() / 2.0, m_size.height() / 2.0); }
     double scale() const { return m_scale; } ///< pixels per degree

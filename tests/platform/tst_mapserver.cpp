@@ -1,10 +1,10 @@
 #include <mapview/mapcanvas.h>
-#include <mapview/mappanes.h>
 #include <mapview/mapserver.h>
 #include <mapview/mapwindow.h>
 #include <mapviewinterface/mapviewinterface.h>
 #include <QElapsedTimer>
 #include <QLocalSocket>
+#include <QMenu>
 #include <QRandomGenerator>
 #include <support/accessiblenames.h>
 #include <support/testmain.h>
@@ -147,12 +147,12 @@ private slots:
     void oneMapForAName();
 
     void hiddenLayerIsNotShown();
-    void layerIsDeletedByItsKey();
-    void listLeadsAndFollows();
+    void layerIsDeletedInItsMenu();
     void everyControlHasAName();
 
 private:
     QString sceneText() const;
+    QMenu* layerMenu(int place) const;
     QString said() const { return m_said.isEmpty() ? QString() : m_said.last(); }
 
     std::unique_ptr<MapWindow> m_window;
@@ -502,6 +502,14 @@ void TstMapServer::oneMapForAName()
     QVERIFY2(second.listen(SERVER, &error), qPrintable(error));
 }
 
+// The menu of a layer, as it is when the user looks at it now.
+QMenu* TstMapServer::layerMenu(int place) const
+{
+    auto* const layers = m_window->findChild<QMenu*>("Layers");
+    emit layers->aboutToShow();
+    return layers->actions()[place]->menu();
+}
+
 void TstMapServer::hiddenLayerIsNotShown()
 {
     Peer peer;
@@ -509,67 +517,33 @@ void TstMapServer::hiddenLayerIsNotShown()
     QTRY_COMPARE(m_window->scene()->visibleGroups().size(), 1);
     m_window->canvas()->selectAll();
     const QImage before = m_window->canvas()->grab().toImage();
-    auto* const layers = m_window->findChild<LayersPane*>();
-    QTreeWidgetItem* const item = layers->topLevelItem(0)->child(0);
-    QCOMPARE(item->text(0), QString("Regions"));
-    item->setCheckState(0, Qt::Unchecked);
+    QCOMPARE(layerMenu(0)->title(), QString("editor: Regions"));
+    layerMenu(0)->actions()[0]->trigger();
     QCOMPARE(m_window->scene()->visibleGroups().size(), 0);
     QCOMPARE(m_window->scene()->selection().size(), 0);
     QVERIFY(m_window->canvas()->grab().toImage() != before);
     // It stays hidden when another layer comes.
     peer.say(command(MAP_CREATE_LAYER, 3, 1).toFrame());
-    QTRY_COMPARE(layers->topLevelItem(0)->childCount(), 2);
-    QCOMPARE(layers->topLevelItem(0)->child(0)->checkState(0), Qt::Unchecked);
-    QCOMPARE(layers->topLevelItem(0)->child(1)->text(0), QString("Layer without a name"));
-    layers->topLevelItem(0)->child(0)->setCheckState(0, Qt::Checked);
+    QTRY_COMPARE(m_window->scene()->layers().size(), size_t(2));
+    QVERIFY(!layerMenu(0)->actions()[0]->isChecked());
+    QVERIFY(layerMenu(1)->actions()[0]->isChecked());
+    QCOMPARE(layerMenu(1)->title(), QString("editor: Layer without a name"));
+    layerMenu(0)->actions()[0]->trigger();
     m_window->canvas()->selectAll();
     QCOMPARE(m_window->canvas()->grab().toImage(), before);
 }
 
-void TstMapServer::layerIsDeletedByItsKey()
+void TstMapServer::layerIsDeletedInItsMenu()
 {
     Peer peer;
     peer.say(hello() + layerFrames() + command(MAP_CREATE_LAYER, 3, 1, "Stays").toFrame() +
              rectFrames(10, "A", 1, 4, 3, 2));
     QTRY_COMPARE(m_window->scene()->visibleGroups().size(), 1);
     peer.forget();
-    auto* const layers = m_window->findChild<LayersPane*>();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    layers->setFocus();
-    layers->setCurrentItem(layers->topLevelItem(0)->child(1));
-    QTest::keyClick(layers, Qt::Key_Delete);
-    layers->setCurrentItem(layers->topLevelItem(0)->child(0));
-    QTest::keyClick(layers, Qt::Key_Delete);
+    QVERIFY(!layerMenu(1)->actions()[1]->isEnabled());
+    layerMenu(0)->actions()[1]->trigger();
     QTRY_COMPARE(peer.heard(), QStringList{line(MAP_LAYER_DELETED, 2)});
     QCOMPARE(sceneText(), QString("editor Stays:"));
-}
-
-void TstMapServer::listLeadsAndFollows()
-{
-    Peer peer;
-    peer.say(hello() + layerFrames() + rectFrames(10, "A", 1, 4, 3, 2) + rectFrames(12, "", 70, 4, 73, 2));
-    auto* const objects = m_window->findChild<ObjectsPane*>();
-    QTRY_COMPARE(objects->count(), 2);
-    QCOMPARE(objects->item(1)->text(), QString("Object without a name"));
-    objects->setCurrentRow(1);
-    const int client = m_window->scene()->layers().front()->client;
-    QCOMPARE(m_window->scene()->selection(), QSet<MapKey>{mapKey(client, 12)});
-    m_window->scene()->select({mapKey(client, 10)});
-    QCOMPARE(objects->selectedItems(), QList<QListWidgetItem*>{objects->item(0)});
-    m_window->canvas()->zoom(30);
-    emit objects->itemActivated(objects->item(1));
-    QVERIFY(m_window->canvas()->viewport().area().contains(QPointF(71, 3)));
-    // The row where one is stays when the list changes.
-    objects->setCurrentRow(1);
-    peer.say(rectFrames(14, "C", 1, 4, 3, 2));
-    QTRY_COMPARE(objects->count(), 3);
-    QCOMPARE(objects->currentRow(), 1);
-    // One that has gone and is still in the list does no harm.
-    peer.say(command(MAP_DELETE, 12, 0, "", {}, 172).toFrame());
-    QTRY_COMPARE(m_window->scene()->visibleGroups().size(), 2);
-    if (objects->count() == 3)
-        emit objects->itemActivated(objects->item(1));
-    QTRY_COMPARE(objects->count(), 2);
 }
 
 void TstMapServer::everyControlHasAName()
