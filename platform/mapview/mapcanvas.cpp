@@ -92,13 +92,10 @@ void MapCanvas::selectAll()
 bool MapCanvas::selectNext(bool forward)
 {
     const QVector<MapKey> keys = m_scene->visibleGroups();
-    int place = forward ? 0 : keys.size() - 1;
-    for (int i = 0; i < keys.size() && !m_scene->selection().isEmpty(); ++i) {
-        if (m_scene->selection().contains(keys[i])) {
-            place = forward ? i + 1 : i - 1;
-            break;
-        }
-    }
+    const auto isSelected = [this](MapKey key) { return m_scene->selection().contains(key); };
+    const int current = int(std::find_if(keys.begin(), keys.end(), isSelected) - keys.begin());
+    const int before = current < keys.size() ? current : forward ? -1 : keys.size();
+    const int place = before + (forward ? 1 : -1);
     if (place < 0 || place >= keys.size()) {
         m_scene->select({});
         return false;

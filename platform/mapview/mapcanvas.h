@@ -15,8 +15,6 @@ class MapCanvas : public QWidget
 {
     Q_OBJECT
 public:
-    static constexpr double ZOOM_STEP = 1.5;
-
     /// \param scene  must outlive the canvas
     MapCanvas(MapScene* scene, QWidget* parent);
 
@@ -65,9 +63,8 @@ private:
     void paintMarks(QPainter* painter);
 
     MapKey groupAt(const QPoint& pixel) const;
-    void click(const QPoint& pixel, Qt::KeyboardModifiers modifiers);
+    void click(const QPoint& pixel, bool adds);
     QPointF offsetInDegrees(const QPoint& pixels) const;
-    void moveByKey(const QPoint& direction, Qt::KeyboardModifiers modifiers);
 
     void startDrawing();
     bool drawByKey(int key, const QPoint& direction, Qt::KeyboardModifiers modifiers);

@@ -10,6 +10,7 @@
 #include <QToolTip>
 
 namespace {
+constexpr double ZOOM_STEP = 1.5;
 constexpr double WHEEL_STEP = 120; // Eighths of a degree for one ZOOM_STEP.
 constexpr int NEAR = 4;            // Pixels by which one may miss.
 constexpr int LARGE_STEP = 8;      // Pixels by which a key moves something.
@@ -17,6 +18,11 @@ constexpr int SMALLEST_POLYGON = 3;
 
 const QHash<int, QPoint> DIRECTIONS = {
     {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
+
+int stepOf(Qt::KeyboardModifiers modifiers)
+{
+    return modifiers & Qt::ControlModifier ? 1 : LARGE_STEP;
+}
 } // namespace
 
 bool MapCanvas::event(QEvent* event)
@@ -84,17 +90,15 @@ void MapCanvas::mouseReleaseEvent(QMouseEvent* event)
     else if (event->button() == Qt::LeftButton && m_drawing != 0)
         addPoint(MapScene::onWorld(m_view.toDegrees(QPointF(event->pos()))));
     else if (event->button() == Qt::LeftButton)
-        click(event->pos(), event->modifiers());
+        click(event->pos(), event->modifiers() & Qt::ControlModifier);
     m_gesture = GESTURE_NONE;
     update();
 }
 
-void MapCanvas::mouseDoubleClickEvent(QMouseEvent* event)
+void MapCanvas::mouseDoubleClickEvent(QMouseEvent*)
 {
     if (m_drawing != 0)
-        return finishDrawing();
-    m_view.zoom(2, event->pos());
-    viewHasChanged();
+        finishDrawing();
 }
 
 void MapCanvas::wheelEvent(QWheelEvent* event)
@@ -113,7 +117,7 @@ void MapCanvas::keyPressEvent(QKeyEvent* event)
     } else if (m_drawing != 0 && drawByKey(event->key(), direction, event->modifiers())) {
         return;
     } else if (!direction.isNull() && event->modifiers() & (Qt::AltModifier | Qt::ControlModifier)) {
-        moveByKey(direction, event->modifiers());
+        m_scene->move(m_scene->selection(), offsetInDegrees(direction * stepOf(event->modifiers())));
     } else if (!direction.isNull()) {
         shift(QPoint(direction.x() * width() / 10, direction.y() * height() / 10));
     } else if (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal) {
@@ -143,10 +147,9 @@ MapKey MapCanvas::groupAt(const QPoint& pixel) const
     return found;
 }
 
-void MapCanvas::click(const QPoint& pixel, Qt::KeyboardModifiers modifiers)
+void MapCanvas::click(const QPoint& pixel, bool adds)
 {
     const MapKey key = groupAt(pixel);
-    const bool adds = modifiers & Qt::ControlModifier;
     QSet<MapKey> keys = adds ? m_scene->selection() : QSet<MapKey>();
     if (key != 0 && !(adds && keys.remove(key)))
         keys.insert(key);
@@ -156,13 +159,6 @@ void MapCanvas::click(const QPoint& pixel, Qt::KeyboardModifiers modifiers)
 QPointF MapCanvas::offsetInDegrees(const QPoint& pixels) const
 {
     return QPointF(pixels.x(), -pixels.y()) / m_view.scale();
-}
-
-// By one pixel with Ctrl.
-void MapCanvas::moveByKey(const QPoint& direction, Qt::KeyboardModifiers modifiers)
-{
-    m_scene->move(m_scene->selection(),
-                  offsetInDegrees(direction * (modifiers & Qt::ControlModifier ? 1 : LARGE_STEP)));
 }
 
 // Begins with the next polygon that a client wants, or ends with one that a client has taken back.
@@ -185,8 +181,7 @@ void MapCanvas::startDrawing()
 bool MapCanvas::drawByKey(int key, const QPoint& direction, Qt::KeyboardModifiers modifiers)
 {
     if (!direction.isNull()) {
-        const QPoint step = direction * (modifiers & Qt::ControlModifier ? 1 : LARGE_STEP);
-        m_cross = MapScene::onWorld(m_cross + offsetInDegrees(step));
+        m_cross = MapScene::onWorld(m_cross + offsetInDegrees(direction * stepOf(modifiers)));
         if (!m_view.area().contains(m_cross)) {
             m_view.center(m_cross);
             viewHasChanged();

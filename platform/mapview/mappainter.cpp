@@ -31,62 +31,19 @@ const Colors& colorsOf(const QPalette& palette)
     return palette.color(QPalette::Window).lightness() < 128 ? DARK : LIGHT;
 }
 
-QPolygonF clippedToEdge(const QPolygonF& polygon, bool isX, double edge, double side)
-{
-    const auto inside = [=](const QPointF& point) { return ((isX ? point.x() : point.y()) - edge) * side; };
-    QPolygonF result;
-    for (int i = 0; i < polygon.size(); ++i) {
-        const QPointF& from = polygon[i];
-        const QPointF& to = polygon[(i + 1) % polygon.size()];
-        const double a = inside(from);
-        const double b = inside(to);
-        if (a >= 0)
-            result.append(from);
-        if ((a < 0) != (b < 0))
-            result.append(from + (to - from) * (a / (a - b)));
-    }
-    return result;
-}
-
-// The rasterizer is slow with, and not made for, what lies far outside.
-QPolygonF clipped(QPolygonF polygon, const QRectF& area)
-{
-    if (area.contains(polygon.boundingRect()))
-        return polygon;
-    polygon = clippedToEdge(polygon, true, area.left(), 1);
-    polygon = clippedToEdge(polygon, true, area.right(), -1);
-    polygon = clippedToEdge(polygon, false, area.top(), 1);
-    return clippedToEdge(polygon, false, area.bottom(), -1);
-}
-
-// Lines of a map are short: those that come near the area are painted whole.
-void addSegments(const QPolygonF& line, const QRectF& area, QVector<QLineF>* segments)
-{
-    for (int i = 1; i < line.size(); ++i) {
-        if (QRectF(line[i - 1], line[i]).normalized().adjusted(-1, -1, 1, 1).intersects(area))
-            segments->append(QLineF(line[i - 1], line[i]));
-    }
-}
-
 void paintLand(QPainter* painter, const Viewport& view, const Colors& colors, const QRectF& part)
 {
     const QRectF area = view.toDegrees(part);
-    QVector<QLineF> coasts;
-    QVector<QLineF> borders;
-    painter->setPen(Qt::NoPen);
     painter->setBrush(colors.land);
     for (const MapLine& line : coastlines()) {
         if (!line.box.intersects(area))
             continue;
-        const QPolygonF pixels = view.toPixels(line.points);
+        painter->setPen(line.isLand ? colors.coast : colors.border);
         if (line.isLand)
-            painter->drawPolygon(clipped(pixels, part));
-        addSegments(pixels, part, line.isLand ? &coasts : &borders);
+            painter->drawPolygon(view.toPixels(line.points));
+        else
+            painter->drawPolyline(view.toPixels(line.points));
     }
-    painter->setPen(colors.border);
-    painter->drawLines(borders);
-    painter->setPen(colors.coast);
-    painter->drawLines(coasts);
 }
 
 double gridStep(const Viewport& view)
@@ -132,7 +89,7 @@ void paintShape(QPainter* painter, const MapGroup& group, const QPolygonF& pixel
         painter->drawRect(box.intersected(part));
     } else {
         painter->setRenderHint(QPainter::Antialiasing);
-        painter->drawPolygon(clipped(pixels, part));
+        painter->drawPolygon(pixels);
         painter->setRenderHint(QPainter::Antialiasing, false);
     }
 }
@@ -143,27 +100,19 @@ void paintName(QPainter* painter, const QString& name, const QRectF& box, const 
     if (box.width() < LABEL_WIDTH || box.height() < metrics.height())
         return;
     const QString text = metrics.elidedText(name, Qt::ElideRight, int(std::min(box.width(), 1e4)) - 6);
-    const QPen pen = painter->pen();
     painter->setPen(color);
     painter->drawText(box.center() + QPointF(-metrics.horizontalAdvance(text), metrics.ascent()) / 2, text);
-    painter->setPen(pen);
 }
 
 void paintShapes(QPainter* painter, const Viewport& view, const MapScene& scene, const Colors& colors,
                  const QRectF& part)
 {
-    const MapLayer* last = nullptr;
-    bool wasSelected = false;
     scene.visit(view.toDegrees(part), [&](const MapLayer& layer, const MapGroup& group) {
         const bool isSelected = scene.selection().contains(group.key);
-        if (last != &layer || isSelected != wasSelected) {
-            QColor color = layer.color.isValid() ? layer.color : colors.shape;
-            painter->setPen(isSelected ? QPen(colors.mark, 3) : QPen(color, 1));
-            color.setAlpha(255 * (100 - layer.transparency) / 100);
-            painter->setBrush(color);
-        }
-        last = &layer;
-        wasSelected = isSelected;
+        QColor color = layer.color.isValid() ? layer.color : colors.shape;
+        painter->setPen(isSelected ? QPen(colors.mark, 3) : QPen(color, 1));
+        color.setAlpha(255 * (100 - layer.transparency) / 100);
+        painter->setBrush(color);
         paintShape(painter, group, view.toPixels(group.points), part);
         paintName(painter, group.name, view.toPixels(group.box), colors.text);
     });

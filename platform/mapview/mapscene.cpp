@@ -72,7 +72,6 @@ QPointF MapScene::onWorld(const QPointF& place)
 int MapScene::addClient(const QString& name)
 {
     m_clients.insert(++m_lastClient, {name, 0});
-    emit layersChanged();
     return m_lastClient;
 }
 
@@ -85,7 +84,6 @@ void MapScene::removeClient(int client)
     m_silent.remove(client);
     emit paintingChanged();
     m_clients.remove(client);
-    emit layersChanged();
 }
 
 bool MapScene::apply(int client, const MapMessage& message)
@@ -234,7 +232,6 @@ void MapScene::createLayer(int client, const MapMessage& message)
     layer->name = message.text;
     m_layers.push_back(std::move(layer));
     ++m_clients[client].points;
-    emit layersChanged();
 }
 
 void MapScene::createGroup(int client, const MapMessage& message)
@@ -315,7 +312,6 @@ void MapScene::removeLayer(const MapLayer* layer)
     --m_clients[layer->client].points;
     m_layers.erase(std::find_if(m_layers.begin(), m_layers.end(),
                                 [layer](const auto& entry) { return entry.get() == layer; }));
-    emit layersChanged();
 }
 
 void MapScene::removeGroup(MapKey key)

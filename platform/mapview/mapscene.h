@@ -100,7 +100,6 @@ public:
 
 signals:
     void changed(const QRectF& area);
-    void layersChanged();
     void selectionChanged();
     void paintingChanged();
     void pendingPolygonChanged();

@@ -24,8 +24,12 @@ MapConnection::MapConnection(QLocalSocket* socket, MapScene* scene, QObject* par
     m_socket->setReadBufferSize(READ_BUFFER);
     connect(m_socket, &QLocalSocket::readyRead, this, &MapConnection::read);
     // Not in the middle of a change of the scene that a client is told of.
-    connect(m_socket, &QLocalSocket::disconnected, this, &MapConnection::leave, Qt::QueuedConnection);
+    connect(m_socket, &QLocalSocket::disconnected, this, &MapConnection::read, Qt::QueuedConnection);
     connect(m_socket, &QLocalSocket::bytesWritten, this, &MapConnection::sendVisibleArea);
+    connect(m_scene, &MapScene::told, this, [this](int client, const MapMessage& message) {
+        if (client == m_client)
+            send(message);
+    });
     // It may have come with its first words.
     QTimer::singleShot(0, this, &MapConnection::read);
 }
@@ -55,37 +59,26 @@ void MapConnection::read()
     timer.start();
     while (!m_isClosed && m_socket->bytesAvailable() > 0) {
         m_reader.append(m_socket->read(CHUNK));
-        if (!handleArrived())
-            return;
+        handleArrived();
         if (timer.elapsed() >= TURN_TIME)
             return QTimer::singleShot(0, this, &MapConnection::read);
     }
-}
-
-void MapConnection::leave()
-{
     // What it said last counts.
-    while (!m_isClosed && m_socket->bytesAvailable() > 0) {
-        m_reader.append(m_socket->read(CHUNK));
-        handleArrived();
-    }
-    drop(QString());
+    if (m_socket->state() == QLocalSocket::UnconnectedState)
+        drop(QString());
 }
 
-// False when the link is closed.
-bool MapConnection::handleArrived()
+void MapConnection::handleArrived()
 {
     MapMessage message;
-    for (;;) {
+    while (!m_isClosed) {
         const MapMessageReader::Result result = m_reader.next(&message);
         if (result == MapMessageReader::INCOMPLETE)
-            return true;
+            return;
         if (result == MapMessageReader::BROKEN)
             drop(tr("it does not keep to the rules"));
         else
             handle(message);
-        if (m_isClosed)
-            return false;
     }
 }
 
@@ -153,10 +146,6 @@ MapServer::MapServer(MapScene* scene, QObject* parent)
     // Nobody else's clients.
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, &MapServer::accept);
-    connect(m_scene, &MapScene::told, this, [this](int client, const MapMessage& message) {
-        if (MapConnection* const connection = m_connections.value(client))
-            connection->send(message);
-    });
 }
 
 MapServer::~MapServer() = default;
@@ -183,17 +172,16 @@ bool MapServer::listen(const QString& name, QString* error)
 void MapServer::setVisibleArea(const QRectF& area)
 {
     m_visibleArea = area;
-    for (MapConnection* connection : qAsConst(m_connections))
-        connection->setVisibleArea(area);
+    emit visibleAreaChanged(area);
 }
 
 void MapServer::accept()
 {
     while (QLocalSocket* const socket = m_server.nextPendingConnection()) {
         auto* const connection = new MapConnection(socket, m_scene, this);
+        connection->setVisibleArea(m_visibleArea);
+        connect(this, &MapServer::visibleAreaChanged, connection, &MapConnection::setVisibleArea);
         connect(connection, &MapConnection::introduced, this, [this, connection] {
-            m_connections.insert(connection->client(), connection);
-            connection->setVisibleArea(m_visibleArea);
             emit message(tr("%1 has come").arg(m_scene->clientName(connection->client())));
         });
         connect(
@@ -209,7 +197,6 @@ void MapServer::release(MapConnection* connection, const QString& reason)
     connection->deleteLater();
     if (client != 0) {
         emit clientLeaves();
-        m_connections.remove(client);
         m_scene->removeClient(client);
     }
     if (!reason.isEmpty())

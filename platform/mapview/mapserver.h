@@ -2,7 +2,6 @@
 
 #include <mapviewinterface/mapmessage.h>
 #include <memory>
-#include <QHash>
 #include <QLocalServer>
 #include <QLockFile>
 #include <QRectF>
@@ -20,7 +19,6 @@ public:
 
     /// 0 as long as it has not said who it is.
     int client() const { return m_client; }
-    void send(const MapMessage& message);
     /// Tells the client, if it wants to know. While it does not read only the newest area waits.
     void setVisibleArea(const QRectF& area);
 
@@ -31,9 +29,9 @@ signals:
     void closed(const QString& reason);
 
 private:
+    void send(const MapMessage& message);
     void read();
-    void leave();
-    bool handleArrived();
+    void handleArrived();
     void handle(const MapMessage& message);
     void greet(const MapMessage& message);
     void sendVisibleArea();
@@ -65,6 +63,7 @@ public:
     void setVisibleArea(const QRectF& area);
 
 signals:
+    void visibleAreaChanged(const QRectF& area);
     /// Something for the user to know.
     void message(const QString& text);
     /// A client goes; what it has drawn is still there.
@@ -77,6 +76,5 @@ private:
     MapScene* m_scene; // Not owned.
     QLocalServer m_server;
     std::unique_ptr<QLockFile> m_lock; // Held as long as the name is ours.
-    QHash<int, MapConnection*> m_connections;
     QRectF m_visibleArea;
 };

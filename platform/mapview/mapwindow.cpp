@@ -64,11 +64,6 @@ void MapWindow::buildMenus()
     edit->addAction(tr("&Delete"), m_canvas, &MapCanvas::eraseSelection, QKeySequence::Delete);
 
     QMenu* const view = menuBar()->addMenu(tr("&View"));
-    view->addAction(
-        tr("Zoom &in"), m_canvas, [this] { m_canvas->zoom(MapCanvas::ZOOM_STEP); }, QKeySequence::ZoomIn);
-    view->addAction(
-        tr("Zoom &out"), m_canvas, [this] { m_canvas->zoom(1 / MapCanvas::ZOOM_STEP); },
-        QKeySequence::ZoomOut);
     view->addAction(tr("Whole &world"), m_canvas, &MapCanvas::showWorld, QKeySequence(Qt::CTRL + Qt::Key_0));
     view->addAction(tr("All &objects"), m_canvas, &MapCanvas::showObjects,
                     QKeySequence(Qt::CTRL + Qt::Key_1));
