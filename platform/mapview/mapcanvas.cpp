@@ -22,7 +22,6 @@ MapCanvas::MapCanvas(MapScene* scene, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setMinimumSize(200, 150);
     connect(m_scene, &MapScene::changed, this, &MapCanvas::invalidate);
     connect(m_scene, &MapScene::paintingChanged, this, QOverload<>::of(&QWidget::update));
     connect(m_scene, &MapScene::selectionChanged, this, &MapCanvas::describeSelection);
@@ -72,8 +71,6 @@ void MapCanvas::showObjects()
 
 void MapCanvas::showGroup(quint64 key)
 {
-    if (!m_scene->group(key))
-        return;
     const QRectF box = m_scene->group(key)->box;
     const QRectF area = m_view.area();
     if (box.width() > area.width() || box.height() > area.height())
@@ -120,7 +117,7 @@ void MapCanvas::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawPixmap(0, 0, m_picture);
-    MapPainter::paintLabels(&painter, m_view, palette());
+    MapPainter::paintGraticule(&painter, m_view, palette());
     paintMarks(&painter);
 }
 
@@ -128,13 +125,6 @@ void MapCanvas::resizeEvent(QResizeEvent*)
 {
     m_view.resize(size());
     viewHasChanged();
-}
-
-void MapCanvas::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
-        invalidateAll();
-    QWidget::changeEvent(event);
 }
 
 void MapCanvas::invalidate(const QRectF& degrees)
@@ -149,12 +139,6 @@ void MapCanvas::invalidate(const QRectF& degrees)
     // While a client draws much, the map is painted for other reasons only.
     if (m_scene->isPainting())
         update();
-}
-
-void MapCanvas::invalidateAll()
-{
-    m_dirty = rect();
-    update();
 }
 
 // Brings the picture up to date.
@@ -174,7 +158,8 @@ void MapCanvas::refresh()
 
 void MapCanvas::viewHasChanged()
 {
-    invalidateAll();
+    m_dirty = rect();
+    update();
     emit viewChanged(m_view.area());
 }
 
@@ -195,14 +180,11 @@ void MapCanvas::describeSelection()
 void MapCanvas::paintMarks(QPainter* painter)
 {
     const QColor color = MapPainter::markColor(palette());
-    painter->setPen(QPen(color, 2, Qt::DashLine));
+    painter->setPen(QPen(color, 2));
     if (m_isDragged && m_gesture == GESTURE_MOVE) {
-        const QRectF visible = QRectF(rect()).adjusted(-9, -9, 9, 9);
         for (const MapKey key : m_scene->selection()) {
             if (m_scene->canMove(key))
-                painter->drawRect(m_view.toPixels(m_scene->group(key)->box)
-                                      .translated(m_last - m_pressed)
-                                      .intersected(visible));
+                painter->drawRect(m_view.toPixels(m_scene->group(key)->box).translated(m_last - m_pressed));
         }
     }
     if (m_drawing == 0)
@@ -210,7 +192,6 @@ void MapCanvas::paintMarks(QPainter* painter)
     const QPolygonF line = m_view.toPixels(m_points);
     const QPointF cross = m_view.toPixels(m_cross);
     painter->drawPolyline(QPolygonF(line) << cross);
-    painter->setPen(QPen(color, 2));
     painter->setBrush(color);
     for (const QPointF& point : line)
         painter->drawEllipse(point, POINT_RADIUS, POINT_RADIUS);

@@ -26,7 +26,6 @@ public:
     void showWorld();
     /// All that is drawn and visible.
     void showObjects();
-    /// One that is not there any more is not shown.
     void showGroup(quint64 key);
     void selectAll();
     /// \return false, with nothing selected, behind the last one or before the first
@@ -42,7 +41,6 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -56,7 +54,6 @@ private:
     enum Gesture { GESTURE_NONE, GESTURE_SHIFT, GESTURE_MOVE };
 
     void invalidate(const QRectF& degrees);
-    void invalidateAll();
     void refresh();
     void viewHasChanged();
     void describeSelection();

@@ -27,6 +27,8 @@ int stepOf(Qt::KeyboardModifiers modifiers)
 
 bool MapCanvas::event(QEvent* event)
 {
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        viewHasChanged();
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* const help = static_cast<QHelpEvent*>(event);
@@ -62,17 +64,14 @@ void MapCanvas::mousePressEvent(QMouseEvent* event)
 
 void MapCanvas::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPointF place = MapScene::onWorld(m_view.toDegrees(QPointF(event->pos())));
     if (m_drawing != 0) {
-        m_cross = place;
+        m_cross = MapScene::onWorld(m_view.toDegrees(QPointF(event->pos())));
         update();
     }
-    if (m_gesture == GESTURE_NONE)
+    const int distance = (event->pos() - m_pressed).manhattanLength();
+    if (m_gesture == GESTURE_NONE || (!m_isDragged && distance < QApplication::startDragDistance()))
         return;
-    m_isDragged =
-        m_isDragged || (event->pos() - m_pressed).manhattanLength() >= QApplication::startDragDistance();
-    if (!m_isDragged)
-        return;
+    m_isDragged = true;
     if (m_gesture == GESTURE_SHIFT)
         shift(m_last - event->pos());
     m_last = event->pos();
@@ -103,8 +102,7 @@ void MapCanvas::mouseDoubleClickEvent(QMouseEvent*)
 
 void MapCanvas::wheelEvent(QWheelEvent* event)
 {
-    const double steps = event->angleDelta().y() / WHEEL_STEP;
-    m_view.zoom(std::pow(ZOOM_STEP, steps), event->position());
+    m_view.zoom(std::pow(ZOOM_STEP, event->angleDelta().y() / WHEEL_STEP), event->position());
     viewHasChanged();
 }
 

@@ -64,36 +64,6 @@ QVector<double> gridPlaces(double from, double to, double step)
     return places;
 }
 
-void paintGrid(QPainter* painter, const Viewport& view, const Colors& colors, const QRectF& part)
-{
-    const QRectF area = view.toDegrees(part).intersected(MapScene::world());
-    const QRectF pixels = view.toPixels(area);
-    const double step = gridStep(view);
-    painter->setPen(colors.grid);
-    for (const double x : gridPlaces(area.left(), area.right(), step)) {
-        const double pixel = std::floor(view.toPixels(QPointF(x, 0)).x());
-        painter->drawLine(QLineF(pixel, pixels.top(), pixel, pixels.bottom()));
-    }
-    for (const double y : gridPlaces(area.top(), area.bottom(), step)) {
-        const double pixel = std::floor(view.toPixels(QPointF(0, y)).y());
-        painter->drawLine(QLineF(pixels.left(), pixel, pixels.right(), pixel));
-    }
-}
-
-void paintShape(QPainter* painter, const MapGroup& group, const QPolygonF& pixels, const QRectF& part)
-{
-    const QRectF box = pixels.boundingRect();
-    if (box.width() < 2 && box.height() < 2) {
-        painter->drawRect(QRectF(box.center() - QPointF(1, 1), QSizeF(2, 2)));
-    } else if (group.isRect) {
-        painter->drawRect(box.intersected(part));
-    } else {
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->drawPolygon(pixels);
-        painter->setRenderHint(QPainter::Antialiasing, false);
-    }
-}
-
 void paintName(QPainter* painter, const QString& name, const QRectF& box, const QColor& color)
 {
     const QFontMetrics metrics = painter->fontMetrics();
@@ -113,8 +83,13 @@ void paintShapes(QPainter* painter, const Viewport& view, const MapScene& scene,
         painter->setPen(isSelected ? QPen(colors.mark, 3) : QPen(color, 1));
         color.setAlpha(255 * (100 - layer.transparency) / 100);
         painter->setBrush(color);
-        paintShape(painter, group, view.toPixels(group.points), part);
-        paintName(painter, group.name, view.toPixels(group.box), colors.text);
+        const QRectF box = view.toPixels(group.box);
+        painter->setRenderHint(QPainter::Antialiasing, !group.isRect);
+        if (group.isRect)
+            painter->drawRect(box);
+        else
+            painter->drawPolygon(view.toPixels(group.points));
+        paintName(painter, group.name, box, colors.text);
     });
 }
 } // namespace
@@ -130,28 +105,32 @@ void MapPainter::paintMap(QPainter* painter, const Viewport& view, const MapScen
     painter->fillRect(view.toPixels(MapScene::world()).intersected(area), colors.sea);
     painter->setRenderHint(QPainter::Antialiasing);
     paintLand(painter, view, colors, area);
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    paintGrid(painter, view, colors, area);
     paintShapes(painter, view, scene, colors, area);
     painter->restore();
 }
 
-void MapPainter::paintLabels(QPainter* painter, const Viewport& view, const QPalette& palette)
+void MapPainter::paintGraticule(QPainter* painter, const Viewport& view, const QPalette& palette)
 {
+    const Colors& colors = colorsOf(palette);
     const QRectF area = view.area();
+    const QRectF pixels = view.toPixels(area);
     const double step = gridStep(view);
-    const QFontMetrics metrics = painter->fontMetrics();
-    painter->setPen(colorsOf(palette).text);
-    const auto text = [](double value, const QString& positive, const QString& negative) {
-        const QString degrees = QString::number(std::abs(value));
-        return value == 0 ? QStringLiteral("0°") : (value > 0 ? positive : negative).arg(degrees);
+    const auto paint = [&](const QLineF& line, const QPointF& corner, double value, const QString& text) {
+        painter->setPen(colors.grid);
+        painter->drawLine(line);
+        painter->setPen(colors.text);
+        painter->drawText(corner, value == 0 ? QStringLiteral("0°") : text.arg(std::abs(value)));
     };
-    for (const double x : gridPlaces(area.left(), area.right(), step))
-        painter->drawText(QPointF(view.toPixels(QPointF(x, 0)).x() + 3, metrics.ascent() + 1),
-                          text(x, Texts::tr("%1° E"), Texts::tr("%1° W")));
-    for (const double y : gridPlaces(area.top(), area.bottom(), step))
-        painter->drawText(QPointF(3, view.toPixels(QPointF(0, y)).y() - 3),
-                          text(y, Texts::tr("%1° N"), Texts::tr("%1° S")));
+    for (const double value : gridPlaces(area.left(), area.right(), step)) {
+        const double x = std::floor(view.toPixels(QPointF(value, 0)).x());
+        paint(QLineF(x, pixels.top(), x, pixels.bottom()), QPointF(x + 3, painter->fontMetrics().height()),
+              value, value > 0 ? Texts::tr("%1° E") : Texts::tr("%1° W"));
+    }
+    for (const double value : gridPlaces(area.top(), area.bottom(), step)) {
+        const double y = std::floor(view.toPixels(QPointF(0, value)).y());
+        paint(QLineF(pixels.left(), y, pixels.right(), y), QPointF(3, y - 3), value,
+              value > 0 ? Texts::tr("%1° N") : Texts::tr("%1° S"));
+    }
 }
 
 QColor MapPainter::markColor(const QPalette& palette)

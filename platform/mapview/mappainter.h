@@ -12,11 +12,11 @@ namespace MapPainter {
 /// How far outlines reach beyond their shape, in pixels.
 constexpr int MARGIN = 5;
 
-/// Land, graticule and all shapes.
+/// Land and all shapes.
 void paintMap(QPainter* painter, const Viewport& view, const MapScene& scene, const QPalette& palette,
               const QRect& part);
-/// Longitudes along the upper edge, latitudes along the left one.
-void paintLabels(QPainter* painter, const Viewport& view, const QPalette& palette);
+/// Lines over the map, with longitudes along the upper edge and latitudes along the left one.
+void paintGraticule(QPainter* painter, const Viewport& view, const QPalette& palette);
 /// For what is being moved or drawn.
 QColor markColor(const QPalette& palette);
 } // namespace MapPainter

@@ -356,9 +356,5 @@ void MapScene::setPainting(int client, const MapMessage& message)
 
 void MapScene::tell(MapMessageKind kind, MapKey key, const QVector<QPointF>& points)
 {
-    MapMessage message;
-    message.kind = kind;
-    message.id = idOf(key);
-    message.points = points;
-    emit told(clientOf(key), message);
+    emit told(clientOf(key), {kind, idOf(key), 0, 0, QString(), points});
 }

@@ -91,10 +91,7 @@ void MapConnection::handle(const MapMessage& message)
         m_isAreaNew = true;
         sendVisibleArea();
     } else if (message.kind == MAP_TELL_WORLD && message.code != 0) {
-        MapMessage answer;
-        answer.kind = MAP_WORLD_AREA;
-        answer.points = cornersOf(MapScene::world());
-        send(answer);
+        send({MAP_WORLD_AREA, 0, 0, 0, QString(), cornersOf(MapScene::world())});
     } else if (!m_scene->apply(m_client, message)) {
         drop(tr("it draws more than the map can hold"));
     }
@@ -104,18 +101,13 @@ void MapConnection::greet(const MapMessage& message)
 {
     if (message.kind != MAP_HELLO)
         return drop(tr("it does not keep to the rules"));
-    MapMessage answer;
-    answer.code = MAP_PROTOCOL_VERSION;
     if (message.code != MAP_PROTOCOL_VERSION) {
-        answer.kind = MAP_REFUSE;
-        send(answer);
+        send({MAP_REFUSE, 0, 0, MAP_PROTOCOL_VERSION, QString(), {}});
         return drop(
             tr("it speaks version %1, the map version %2").arg(message.code).arg(MAP_PROTOCOL_VERSION));
     }
-    answer.kind = MAP_WELCOME;
-    answer.id = OVERLAY;
     m_client = m_scene->addClient(message.text);
-    send(answer);
+    send({MAP_WELCOME, OVERLAY, 0, MAP_PROTOCOL_VERSION, QString(), {}});
     emit introduced();
 }
 
@@ -124,10 +116,7 @@ void MapConnection::sendVisibleArea()
     if (!m_wantsVisibleArea || !m_isAreaNew || m_socket->bytesToWrite() > 0)
         return;
     m_isAreaNew = false;
-    MapMessage message;
-    message.kind = MAP_VISIBLE_AREA;
-    message.points = cornersOf(m_visibleArea);
-    send(message);
+    send({MAP_VISIBLE_AREA, 0, 0, 0, QString(), cornersOf(m_visibleArea)});
 }
 
 void MapConnection::drop(const QString& reason)
@@ -147,8 +136,6 @@ MapServer::MapServer(MapScene* scene, QObject* parent)
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, &MapServer::accept);
 }
-
-MapServer::~MapServer() = default;
 
 bool MapServer::listen(const QString& name, QString* error)
 {

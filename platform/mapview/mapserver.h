@@ -54,7 +54,6 @@ class MapServer : public QObject
 public:
     /// \param scene  must outlive the server
     MapServer(MapScene* scene, QObject* parent);
-    ~MapServer() override;
 
     /// \param name  see MapMessage::serverName()
     /// \return false if another map program has the name; \p error tells

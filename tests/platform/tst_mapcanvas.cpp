@@ -88,6 +88,7 @@ private slots:
     void wheelKeepsThePlaceBelowTheMouse();
     void dragShiftsTheMap();
     void keysShiftAndZoom();
+    void landIsPaintedHoweverNear();
     void shiftedPictureIsThatPaintedAnew();
     void changesArePaintedWhereTheyAre();
     void nothingIsPaintedWhileAClientDrawsMuch();
@@ -203,7 +204,7 @@ QImage TstMapCanvas::freshPicture()
     QPainter painter(&pixmap);
     painter.setFont(m_canvas->font());
     MapPainter::paintMap(&painter, m_canvas->viewport(), *m_scene, m_canvas->palette(), m_canvas->rect());
-    MapPainter::paintLabels(&painter, m_canvas->viewport(), m_canvas->palette());
+    MapPainter::paintGraticule(&painter, m_canvas->viewport(), m_canvas->palette());
     return pixmap.toImage();
 }
 
@@ -255,6 +256,24 @@ void TstMapCanvas::keysShiftAndZoom()
     QCOMPARE(m_canvas->viewport().scale(), 3.0);
     QTest::keyClick(m_canvas.get(), Qt::Key_Home);
     QCOMPARE(m_canvas->viewport().area(), QRectF(-180, -90, 360, 180));
+}
+
+// What lies far outside the window is the painter's business.
+void TstMapCanvas::landIsPaintedHoweverNear()
+{
+    const auto colorAt = [this](double x, double y) {
+        const int group = addRect(x, y + 1e-6, x + 1e-6, y);
+        m_canvas->showWorld();
+        m_canvas->zoom(1e9);
+        m_scene->apply(m_client, command(MAP_SELECT, group, 0, "", {}, 6));
+        m_scene->select({});
+        // Beside the shape and all lines of the graticule.
+        return freshPicture().pixelColor(pixel(x, y) + QPoint(23, 31));
+    };
+    const QColor land = colorAt(20.003, 10.003);
+    QCOMPARE(colorAt(90.003, 60.003), land);
+    QVERIFY(colorAt(-40.003, 30.003) != land);
+    QCOMPARE(m_canvas->viewport().scale(), 20000.0);
 }
 
 void TstMapCanvas::shiftedPictureIsThatPaintedAnew()
