@@ -4181,17 +4181,6 @@
     </message>
 </context>
 <context>
-    <name>LayersPane</name>
-    <message>
-        <source>Layers</source>
-        <translation>Ebenen</translation>
-    </message>
-    <message>
-        <source>Layer without a name</source>
-        <translation>Ebene ohne Namen</translation>
-    </message>
-</context>
-<context>
     <name>MapCanvas</name>
     <message>
         <source>Map</source>
@@ -4206,14 +4195,6 @@
         <translation>%1 Objekte sind ausgewählt</translation>
     </message>
     <message>
-        <source>Nothing is selected. Tab selects the next object.</source>
-        <translation>Nichts ist ausgewählt. Tab wählt das nächste Objekt.</translation>
-    </message>
-    <message>
-        <source>%1 is selected, at %2</source>
-        <translation>%1 ist ausgewählt, bei %2</translation>
-    </message>
-    <message>
         <source>Draw %1: a click or Enter sets a point, a double click or Enter again ends, Backspace takes the last point back, Escape gives it up.</source>
         <translation>%1 zeichnen: Klick oder Eingabetaste setzt einen Punkt, Doppelklick oder nochmals Eingabetaste beendet, Rücktaste nimmt den letzten Punkt zurück, Escape bricht ab.</translation>
     </message>
@@ -4226,12 +4207,12 @@
         <translation>Ein Polygon hat mindestens drei Punkte.</translation>
     </message>
     <message>
-        <source>Mouse: a drag shifts the map, the wheel zooms. A click selects, with Ctrl adds; a drag with Shift selects all inside, with Ctrl zooms there. What is selected can be dragged, a rectangle changed at its corners.
-
-Keys: arrows shift the map, + and - zoom, Home shows the world. Tab and Shift+Tab select, Enter shows what is selected, Delete deletes it. Alt+arrows move it, Ctrl+arrows by a pixel, Shift+arrows move the right lower corner of a rectangle.</source>
-        <translation>Maus: Ziehen verschiebt die Karte, das Rad zoomt. Ein Klick wählt aus, mit Strg dazu; Ziehen mit der Umschalttaste wählt alles darin aus, mit Strg zoomt es dorthin. Ausgewähltes lässt sich ziehen, ein Rechteck an seinen Ecken ändern.
-
-Tasten: Pfeile verschieben die Karte, + und - zoomen, Pos1 zeigt die ganze Welt. Tab und Umschalt+Tab wählen aus, die Eingabetaste zeigt das Ausgewählte, Entf löscht es. Alt+Pfeile verschieben es, Strg+Pfeile um ein Pixel, Umschalt+Pfeile die rechte untere Ecke eines Rechtecks.</translation>
+        <source>Tab selects an object, arrows shift the map, + and - zoom.</source>
+        <translation>Tab wählt ein Objekt, Pfeiltasten verschieben die Karte, + und - ändern den Maßstab.</translation>
+    </message>
+    <message>
+        <source>%1 is selected. Alt+arrows move it, Ctrl+arrows by a pixel.</source>
+        <translation>%1 ist gewählt. Alt und Pfeiltasten verschieben es, Strg und Pfeiltasten um ein Pixel.</translation>
     </message>
 </context>
 <context>
@@ -4251,6 +4232,10 @@ Tasten: Pfeile verschieben die Karte, + und - zoomen, Pos1 zeigt die ganze Welt.
     <message>
         <source>it speaks version %1, the map version %2</source>
         <translation>es spricht Version %1, die Karte Version %2</translation>
+    </message>
+    <message>
+        <source>%1 has come</source>
+        <translation>%1 ist gekommen</translation>
     </message>
 </context>
 <context>
@@ -4326,10 +4311,6 @@ Tasten: Pfeile verschieben die Karte, + und - zoomen, Pos1 zeigt die ganze Welt.
         <translation>es läuft schon ein anderes Kartenprogramm</translation>
     </message>
     <message>
-        <source>%1 has come</source>
-        <translation>%1 ist gekommen</translation>
-    </message>
-    <message>
         <source>a client without a name</source>
         <translation>einem Programm ohne Namen</translation>
     </message>
@@ -4349,14 +4330,6 @@ Tasten: Pfeile verschieben die Karte, + und - zoomen, Pos1 zeigt die ganze Welt.
         <translation>Karte</translation>
     </message>
     <message>
-        <source>Layers</source>
-        <translation>Ebenen</translation>
-    </message>
-    <message>
-        <source>Objects</source>
-        <translation>Objekte</translation>
-    </message>
-    <message>
         <source>&amp;Map</source>
         <translation>&amp;Karte</translation>
     </message>
@@ -4373,28 +4346,12 @@ Tasten: Pfeile verschieben die Karte, + und - zoomen, Pos1 zeigt die ganze Welt.
         <translation>&amp;Alles auswählen</translation>
     </message>
     <message>
-        <source>Select &amp;next</source>
-        <translation>&amp;Nächstes auswählen</translation>
-    </message>
-    <message>
-        <source>Select &amp;previous</source>
-        <translation>&amp;Voriges auswählen</translation>
-    </message>
-    <message>
         <source>&amp;Delete</source>
         <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;in</source>
-        <translation>Ver&amp;größern</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;out</source>
-        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>Whole &amp;world</source>
@@ -4405,20 +4362,16 @@ Tasten: Pfeile verschieben die Karte, + und - zoomen, Pos1 zeigt die ganze Welt.
         <translation>Alle &amp;Objekte</translation>
     </message>
     <message>
-        <source>&amp;Selected objects</source>
-        <translation>&amp;Ausgewählte Objekte</translation>
+        <source>&amp;Layers</source>
+        <translation>&amp;Ebenen</translation>
     </message>
     <message>
-        <source>Clients: %1</source>
-        <translation>Programme: %1</translation>
+        <source>Layer without a name</source>
+        <translation>Ebene ohne Namen</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;Mouse and keys</source>
-        <translation>&amp;Maus und Tasten</translation>
+        <source>&amp;Shown</source>
+        <translation>&amp;Sichtbar</translation>
     </message>
 </context>
 <context>
@@ -4430,17 +4383,6 @@ Tasten: Pfeile verschieben die Karte, + und - zoomen, Pos1 zeigt die ganze Welt.
     <message>
         <source>Tunes one receiver for each sub-job.</source>
         <translation>Stimmt für jeden Teilauftrag einen Empfänger ab.</translation>
-    </message>
-</context>
-<context>
-    <name>ObjectsPane</name>
-    <message>
-        <source>Objects</source>
-        <translation>Objekte</translation>
-    </message>
-    <message>
-        <source>Object without a name</source>
-        <translation>Objekt ohne Namen</translation>
     </message>
 </context>
 <context>

@@ -41,8 +41,10 @@ int main(int argc, char* argv[])
     parser.process(application);
 
     useLanguage(parser.value(QStringLiteral("installation")));
-    if (parser.isSet(QStringLiteral("dark")))
-        MapWindow::useDarkWindows();
+    if (parser.isSet(QStringLiteral("dark"))) {
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        QApplication::setPalette(QPalette(QColor(53, 53, 53)));
+    }
     MapWindow window;
     const QStringList size = parser.value(QStringLiteral("size")).split(QLatin1Char('x'));
     if (size.value(0).toInt() > 0 && size.value(1).toInt() > 0)

@@ -3,7 +3,6 @@
 #include "mappainter.h"
 
 #include <algorithm>
-#include <QEvent>
 #include <QPainter>
 #include <QPaintEvent>
 
@@ -91,8 +90,7 @@ bool MapCanvas::selectNext(bool forward)
     const QVector<MapKey> keys = m_scene->visibleGroups();
     const auto isSelected = [this](MapKey key) { return m_scene->selection().contains(key); };
     const int current = int(std::find_if(keys.begin(), keys.end(), isSelected) - keys.begin());
-    const int before = current < keys.size() ? current : forward ? -1 : keys.size();
-    const int place = before + (forward ? 1 : -1);
+    const int place = forward ? (current + 1) % (keys.size() + 1) : current - 1;
     if (place < 0 || place >= keys.size()) {
         m_scene->select({});
         return false;
@@ -179,8 +177,7 @@ void MapCanvas::describeSelection()
 // What is being done and is not on the map yet.
 void MapCanvas::paintMarks(QPainter* painter)
 {
-    const QColor color = MapPainter::markColor(palette());
-    painter->setPen(QPen(color, 2));
+    painter->setPen(QPen(palette().highlight(), 2));
     if (m_isDragged && m_gesture == GESTURE_MOVE) {
         for (const MapKey key : m_scene->selection()) {
             if (m_scene->canMove(key))
@@ -192,7 +189,7 @@ void MapCanvas::paintMarks(QPainter* painter)
     const QPolygonF line = m_view.toPixels(m_points);
     const QPointF cross = m_view.toPixels(m_cross);
     painter->drawPolyline(QPolygonF(line) << cross);
-    painter->setBrush(color);
+    painter->setBrush(palette().highlight());
     for (const QPointF& point : line)
         painter->drawEllipse(point, POINT_RADIUS, POINT_RADIUS);
     painter->drawLine(cross - QPointF(CROSS_ARM, 0), cross + QPointF(CROSS_ARM, 0));

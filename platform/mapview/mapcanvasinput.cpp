@@ -1,7 +1,6 @@
 // What the user does on the map with mouse and keyboard.
 
 #include "mapcanvas.h"
-#include "mappainter.h"
 
 #include <cmath>
 #include <QApplication>

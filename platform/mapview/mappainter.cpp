@@ -132,8 +132,3 @@ void MapPainter::paintGraticule(QPainter* painter, const Viewport& view, const Q
               value > 0 ? Texts::tr("%1° N") : Texts::tr("%1° S"));
     }
 }
-
-QColor MapPainter::markColor(const QPalette& palette)
-{
-    return colorsOf(palette).mark;
-}

@@ -17,6 +17,4 @@ void paintMap(QPainter* painter, const Viewport& view, const MapScene& scene, co
               const QRect& part);
 /// Lines over the map, with longitudes along the upper edge and latitudes along the left one.
 void paintGraticule(QPainter* painter, const Viewport& view, const QPalette& palette);
-/// For what is being moved or drawn.
-QColor markColor(const QPalette& palette);
 } // namespace MapPainter

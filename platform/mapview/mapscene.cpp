@@ -17,11 +17,6 @@ qint32 idOf(MapKey key)
     return qint32(key & 0xFFFFFFFFu);
 }
 
-QColor colorOf(int number)
-{
-    return QColor(number & 0xFF, number >> 8 & 0xFF, number >> 16 & 0xFF);
-}
-
 // NAME=VALUE joined by ";". What the map does not know is left out, what is not there stays as it was.
 void applyProperties(const QString& text, MapLayer* layer)
 {
@@ -37,8 +32,9 @@ void applyProperties(const QString& text, MapLayer* layer)
     layer->canBeDeleted = isTrue("DELETE", layer->canBeDeleted);
     layer->canDeleteObjects = isEditable && isTrue("O_DELETE", layer->canDeleteObjects);
     layer->canMoveObjects = isEditable && isTrue("O_MOVE", layer->canMoveObjects);
+    const int color = values.value(QStringLiteral("FILL_COLOR")).toInt();
     if (values.contains(QStringLiteral("FILL_COLOR")))
-        layer->color = colorOf(values.value(QStringLiteral("FILL_COLOR")).toInt());
+        layer->color = QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF);
     if (values.contains(QStringLiteral("TRANS")) && layer->color.isValid())
         layer->transparency = qBound(0, values.value(QStringLiteral("TRANS")).toInt(), 100);
 }
@@ -55,12 +51,6 @@ bool arePlaces(const QVector<QPointF>& points)
 QPolygonF cornersOf(const QRectF& box)
 {
     return QPolygonF() << box.bottomLeft() << box.topRight();
-}
-
-const QRectF& MapScene::world()
-{
-    static const QRectF area(-180, -90, 360, 180);
-    return area;
 }
 
 QPointF MapScene::onWorld(const QPointF& place)

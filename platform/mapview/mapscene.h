@@ -57,7 +57,7 @@ class MapScene : public QObject
 public:
     /// What one client may have on the map, counted in points; a group counts as one.
     static constexpr int MAX_POINTS = 2000000;
-    static const QRectF& world();                 ///< (-180, -90) to (180, 90)
+    static QRectF world() { return QRectF(-180, -90, 360, 180); }
     static QPointF onWorld(const QPointF& place); ///< the nearest one there
 
     /// \return the client's number, from 1

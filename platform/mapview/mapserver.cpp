@@ -108,7 +108,7 @@ void MapConnection::greet(const MapMessage& message)
     }
     m_client = m_scene->addClient(message.text);
     send({MAP_WELCOME, OVERLAY, 0, MAP_PROTOCOL_VERSION, QString(), {}});
-    emit introduced();
+    emit introduced(tr("%1 has come").arg(message.text));
 }
 
 void MapConnection::sendVisibleArea()
@@ -168,9 +168,7 @@ void MapServer::accept()
         auto* const connection = new MapConnection(socket, m_scene, this);
         connection->setVisibleArea(m_visibleArea);
         connect(this, &MapServer::visibleAreaChanged, connection, &MapConnection::setVisibleArea);
-        connect(connection, &MapConnection::introduced, this, [this, connection] {
-            emit message(tr("%1 has come").arg(m_scene->clientName(connection->client())));
-        });
+        connect(connection, &MapConnection::introduced, this, &MapServer::message);
         connect(
             connection, &MapConnection::closed, this,
             [this, connection](const QString& reason) { release(connection, reason); }, Qt::QueuedConnection);

@@ -23,8 +23,8 @@ public:
     void setVisibleArea(const QRectF& area);
 
 signals:
-    /// It is known now.
-    void introduced();
+    /// It is known now; a word about that for the user.
+    void introduced(const QString& text);
     /// The link has gone for a reason that is worth a word. Empty: the client closed it.
     void closed(const QString& reason);
 

@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QMenuBar>
 #include <QStatusBar>
-#include <QStyleFactory>
 
 MapWindow::MapWindow()
     : m_canvas(new MapCanvas(&m_scene, this))
@@ -44,20 +43,9 @@ void MapWindow::drawPicture(const QString& file)
     });
 }
 
-void MapWindow::useDarkWindows()
-{
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QPalette palette(QColor(53, 53, 53));
-    palette.setColor(QPalette::Base, QColor(35, 35, 35));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    QApplication::setPalette(palette);
-}
-
 void MapWindow::buildMenus()
 {
-    QMenu* const map = menuBar()->addMenu(tr("&Map"));
-    map->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    menuBar()->addMenu(tr("&Map"))->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
 
     QMenu* const edit = menuBar()->addMenu(tr("&Edit"));
     edit->addAction(tr("Select &all"), m_canvas, &MapCanvas::selectAll, QKeySequence::SelectAll);
@@ -80,7 +68,7 @@ void MapWindow::fillLayers()
     for (const auto& layer : m_scene.layers()) {
         const int client = layer->client;
         const qint32 id = layer->id;
-        QMenu* const menu = m_layers->addMenu(tr("%1: %2").arg(
+        QMenu* const menu = m_layers->addMenu(QStringLiteral("%1: %2").arg(
             m_scene.clientName(client), layer->name.isEmpty() ? tr("Layer without a name") : layer->name));
         QAction* const shown = menu->addAction(tr("&Shown"));
         shown->setCheckable(true);

@@ -22,9 +22,6 @@ public:
     /// with 0 if it could be written.
     void drawPicture(const QString& file);
 
-    /// To be called before the window is made.
-    static void useDarkWindows();
-
     MapScene* scene() { return &m_scene; }
     MapCanvas* canvas() { return m_canvas; }
 

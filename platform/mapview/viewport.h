@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QPoint>
 #include <QRectF>
-#include <QSize>
 #include <QTransform>
 
 /// The part of the map that a window shows: degrees to pixels and back. The map's pixels are whole numbers, so that a
