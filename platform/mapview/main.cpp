@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
 #include <QTextStream>
 #include <quilappstartup/cfgcenter.h>
 #include <quilappstartup/translationcenter.h>
@@ -14,8 +13,8 @@ void useLanguage(const QString& installation)
     CfgCenter* const center = CfgCenter::Instance();
     center->SetInstallation(installation);
     TranslationCenter* const translations = TranslationCenter::Instance();
-    translations->AddFolder(QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                                            QStringLiteral("/../lib/jobeditorve/translations")));
+    translations->AddFolder(QCoreApplication::applicationDirPath() +
+                            QStringLiteral("/../lib/jobeditorve/translations"));
     translations->SetLanguage(center->GetAdminCfg(2)->GetString(QStringLiteral("Language")));
 }
 } // namespace
@@ -37,7 +36,8 @@ int main(int argc, char* argv[])
     parser.addOption({QStringLiteral("dark"), text("Light colours on dark windows.")});
     parser.addOption({QStringLiteral("picture"),
                       text("Write a picture when the first client leaves, and end."), text("FILE")});
-    parser.addOption({QStringLiteral("size"), text("Size of the window, in pixels."), text("WxH")});
+    parser.addOption({QStringLiteral("size"), text("Size of the window, in pixels."), text("WxH"),
+                      QStringLiteral("1100x700")});
     parser.process(application);
 
     useLanguage(parser.value(QStringLiteral("installation")));
@@ -47,8 +47,7 @@ int main(int argc, char* argv[])
     }
     MapWindow window;
     const QStringList size = parser.value(QStringLiteral("size")).split(QLatin1Char('x'));
-    if (size.value(0).toInt() > 0 && size.value(1).toInt() > 0)
-        window.resize(size[0].toInt(), size[1].toInt());
+    window.resize(size.value(0).toInt(), size.value(1).toInt());
     window.show();
     QString error;
     if (!window.listen(MapMessage::serverName(parser.value(QStringLiteral("server"))), &error)) {

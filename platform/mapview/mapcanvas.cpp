@@ -115,7 +115,7 @@ void MapCanvas::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawPixmap(0, 0, m_picture);
-    MapPainter::paintGraticule(&painter, m_view, palette());
+    MapPainter::paintGrid(&painter, m_view, palette(), MapPainter::LABELS);
     paintMarks(&painter);
 }
 

@@ -105,29 +105,30 @@ void MapPainter::paintMap(QPainter* painter, const Viewport& view, const MapScen
     painter->fillRect(view.toPixels(MapScene::world()).intersected(area), colors.sea);
     painter->setRenderHint(QPainter::Antialiasing);
     paintLand(painter, view, colors, area);
+    paintGrid(painter, view, palette, LINES);
     paintShapes(painter, view, scene, colors, area);
     painter->restore();
 }
 
-void MapPainter::paintGraticule(QPainter* painter, const Viewport& view, const QPalette& palette)
+void MapPainter::paintGrid(QPainter* painter, const Viewport& view, const QPalette& palette, GridPart part)
 {
-    const Colors& colors = colorsOf(palette);
     const QRectF area = view.area();
     const QRectF pixels = view.toPixels(area);
     const double step = gridStep(view);
-    const auto paint = [&](const QLineF& line, const QPointF& corner, double value, const QString& text) {
-        painter->setPen(colors.grid);
-        painter->drawLine(line);
-        painter->setPen(colors.text);
-        painter->drawText(corner, value == 0 ? QStringLiteral("0°") : text.arg(std::abs(value)));
+    painter->setPen(part == LINES ? colorsOf(palette).grid : colorsOf(palette).text);
+    const auto paint = [=](const QLineF& line, const QPointF& corner, double value, const QString& text) {
+        if (part == LINES)
+            painter->drawLine(line);
+        else
+            painter->drawText(corner, value == 0 ? QStringLiteral("0°") : text.arg(std::abs(value)));
     };
     for (const double value : gridPlaces(area.left(), area.right(), step)) {
-        const double x = std::floor(view.toPixels(QPointF(value, 0)).x());
+        const double x = std::floor(view.toPixels(QPointF(value, 0)).x()) + 0.5;
         paint(QLineF(x, pixels.top(), x, pixels.bottom()), QPointF(x + 3, painter->fontMetrics().height()),
               value, value > 0 ? Texts::tr("%1° E") : Texts::tr("%1° W"));
     }
     for (const double value : gridPlaces(area.top(), area.bottom(), step)) {
-        const double y = std::floor(view.toPixels(QPointF(0, value)).y());
+        const double y = std::floor(view.toPixels(QPointF(0, value)).y()) + 0.5;
         paint(QLineF(pixels.left(), y, pixels.right(), y), QPointF(3, y - 3), value,
               value > 0 ? Texts::tr("%1° N") : Texts::tr("%1° S"));
     }

@@ -12,9 +12,9 @@ namespace MapPainter {
 /// How far outlines reach beyond their shape, in pixels.
 constexpr int MARGIN = 5;
 
-/// Land and all shapes.
+/// Land, lines of the graticule and all shapes.
 void paintMap(QPainter* painter, const Viewport& view, const MapScene& scene, const QPalette& palette,
               const QRect& part);
-/// Lines over the map, with longitudes along the upper edge and latitudes along the left one.
-void paintGraticule(QPainter* painter, const Viewport& view, const QPalette& palette);
+enum GridPart { LINES, LABELS }; ///< longitudes along the upper edge, latitudes along the left one
+void paintGrid(QPainter* painter, const Viewport& view, const QPalette& palette, GridPart part);
 } // namespace MapPainter

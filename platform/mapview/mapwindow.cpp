@@ -52,9 +52,8 @@ void MapWindow::buildMenus()
     edit->addAction(tr("&Delete"), m_canvas, &MapCanvas::eraseSelection, QKeySequence::Delete);
 
     QMenu* const view = menuBar()->addMenu(tr("&View"));
-    view->addAction(tr("Whole &world"), m_canvas, &MapCanvas::showWorld, QKeySequence(Qt::CTRL + Qt::Key_0));
-    view->addAction(tr("All &objects"), m_canvas, &MapCanvas::showObjects,
-                    QKeySequence(Qt::CTRL + Qt::Key_1));
+    view->addAction(tr("Whole &world"), m_canvas, &MapCanvas::showWorld, Qt::CTRL + Qt::Key_0);
+    view->addAction(tr("All &objects"), m_canvas, &MapCanvas::showObjects, Qt::CTRL + Qt::Key_1);
 
     m_layers = menuBar()->addMenu(tr("&Layers"));
     m_layers->setObjectName(QStringLiteral("Layers"));

@@ -204,7 +204,7 @@ QImage TstMapCanvas::freshPicture()
     QPainter painter(&pixmap);
     painter.setFont(m_canvas->font());
     MapPainter::paintMap(&painter, m_canvas->viewport(), *m_scene, m_canvas->palette(), m_canvas->rect());
-    MapPainter::paintGraticule(&painter, m_canvas->viewport(), m_canvas->palette());
+    MapPainter::paintGrid(&painter, m_canvas->viewport(), m_canvas->palette(), MapPainter::LABELS);
     return pixmap.toImage();
 }
 
