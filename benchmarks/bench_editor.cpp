@@ -92,6 +92,9 @@ Editor& editorWith(int settings)
 {
     static std::unique_ptr<Editor> s_editor;
     static int s_settings = -1;
+    // Windows have to go before the application.
+    if (s_settings == -1)
+        qAddPostRoutine([] { s_editor.reset(); });
     if (s_settings != settings) {
         s_editor.reset();
         s_editor = std::make_unique<Editor>(settings);
