@@ -286,7 +286,6 @@ void TstJedtool::output()
     if (qEnvironmentVariableIsSet("JED_ACCEPT_OUTPUT")) {
         QVERIFY(QDir().mkpath(EXPECTED_FOLDER));
         QVERIFY(Session::saveFile(file, text.toUtf8(), nullptr));
-        QSKIP("written, not compared");
     }
     QByteArray expected;
     QVERIFY2(Session::readFile(file, &expected, nullptr), qPrintable(file));
