@@ -1,5 +1,7 @@
 #include "applysettings.h"
 
+#include "settingwalk.h"
+
 #include <algorithm>
 #include <isubsetting.h>
 #include <jobxml/settings.h>
@@ -14,14 +16,6 @@ class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Session::ApplySettings)
 };
-
-void collect(Setting* setting, const Setting* wanted, QVector<Setting*>* result)
-{
-    if (setting != wanted && setting->getSettingType() == wanted->getSettingType() && !setting->isReadOnly())
-        result->append(setting);
-    for (int i = 0; i < setting->childCount(); ++i)
-        collect(setting->child(i), wanted, result);
-}
 } // namespace
 
 QStringList applicableSets(const Setting& setting)
@@ -40,7 +34,11 @@ QVector<Setting*> similarSettings(const JobSession& session, const Setting* sett
     for (int i = 0; i < session.topLevelCount(); ++i) {
         const JobSession::TopLevel& top = session.topLevel(i);
         if (top.setting && top.factory == session.factoryOf(setting))
-            collect(top.setting, setting, &result);
+            walk(top.setting, [&result, setting](Setting* each) {
+                if (each != setting && each->getSettingType() == setting->getSettingType() &&
+                    !each->isReadOnly())
+                    result.append(each);
+            });
     }
     return result;
 }

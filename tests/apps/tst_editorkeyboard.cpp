@@ -1,3 +1,5 @@
+#include "editorsetup.h"
+
 #include <support/testmain.h>
 
 #include <isubsetting.h>
@@ -13,7 +15,6 @@
 #include <QTimer>
 #include <QTreeView>
 #include <resourceselectiondialog.h>
-#include <session/installation.h>
 #include <session/jobdocument.h>
 #include <session/jobsession.h>
 #include <session/pluginhost.h>
@@ -55,12 +56,7 @@ EditorWindow* TstEditorKeyboard::s_window = nullptr;
 
 void TstEditorKeyboard::initTestCase()
 {
-    QLoggingCategory::setFilterRules("jobeditorve.trace=false");
-    QCoreApplication::setOrganizationName("jobeditorve-tests");
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QString error;
-    QVERIFY2(Session::chooseInstallation(JED_SOURCE_DIR "/installation", QString(), &error),
-             qPrintable(error));
+    JedTest::useEditorStation();
     m_host.load(PluginHost::defaultFolders());
 }
 

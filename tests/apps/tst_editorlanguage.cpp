@@ -1,3 +1,5 @@
+#include "editorsetup.h"
+
 #include <support/pseudotranslator.h>
 #include <support/testmain.h>
 
@@ -9,7 +11,6 @@
 #include <QPushButton>
 #include <QSettings>
 #include <quilappstartup/translationcenter.h>
-#include <session/installation.h>
 #include <session/jobsession.h>
 #include <session/pluginhost.h>
 
@@ -56,12 +57,7 @@ private:
 
 void TstEditorLanguage::initTestCase()
 {
-    QLoggingCategory::setFilterRules("jobeditorve.trace=false");
-    QCoreApplication::setOrganizationName("jobeditorve-tests");
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QString error;
-    QVERIFY2(Session::chooseInstallation(JED_SOURCE_DIR "/installation", QString(), &error),
-             qPrintable(error));
+    JedTest::useEditorStation();
     TranslationCenter::Instance()->AddFolder(JED_BINARY_DIR "/lib/jobeditorve/translations");
 }
 

@@ -1,3 +1,5 @@
+#include "editorsetup.h"
+
 #include <support/accessiblenames.h>
 #include <support/testmain.h>
 
@@ -17,7 +19,6 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QTreeWidget>
-#include <session/installation.h>
 #include <session/jobsession.h>
 #include <session/pluginhost.h>
 #include <session/savefile.h>
@@ -89,12 +90,7 @@ private:
 
 void TstEditorWindow::initTestCase()
 {
-    QLoggingCategory::setFilterRules("jobeditorve.trace=false");
-    QCoreApplication::setOrganizationName("jobeditorve-tests");
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QString error;
-    QVERIFY2(Session::chooseInstallation(JED_SOURCE_DIR "/installation", QString(), &error),
-             qPrintable(error));
+    JedTest::useEditorStation();
     m_host.load(PluginHost::defaultFolders());
 }
 

@@ -1,3 +1,5 @@
+#include "editorsetup.h"
+
 #include <support/accessiblenames.h>
 #include <support/testmain.h>
 
@@ -17,7 +19,6 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QTreeView>
-#include <session/installation.h>
 #include <session/pluginhost.h>
 #include <session/savefile.h>
 
@@ -60,11 +61,7 @@ private:
 
 void TstImportDialog::initTestCase()
 {
-    QLoggingCategory::setFilterRules("jobeditorve.trace=false");
-    QCoreApplication::setOrganizationName("jobeditorve-tests");
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QString error;
-    QVERIFY2(Session::chooseInstallation(INSTALLATION, QString(), &error), qPrintable(error));
+    JedTest::useEditorStation();
     m_host.load(Session::PluginHost::defaultFolders());
 }
 
